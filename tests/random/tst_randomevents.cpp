@@ -1,0 +1,70 @@
+#include "Pelorin/sliders/ScaleSliderNG.h"
+#include "tests/support/RandomEvents.h"
+#include "tests/support/TestCase.h"
+
+#include <cstdio>
+#include <functional>
+#include <memory>
+
+namespace {
+
+struct Subject
+{
+    const char *name;
+    std::function<QWidget *()> make;
+};
+
+/// Every widget of the library joins with a line.
+const QVector<Subject> &subjects()
+{
+    static const QVector<Subject> list{
+        { "ScaleSliderNG, horizontal",
+          [] { return new ScaleSliderNG(Qt::Horizontal, ScaleSliderNG::ScaleLinear, nullptr); } },
+        { "ScaleSliderNG, vertical steps",
+          [] { return new ScaleSliderNG(Qt::Vertical, ScaleSliderNG::ScaleSqrtSteps, nullptr); } },
+    };
+    return list;
+}
+
+} // namespace
+
+class tst_RandomEvents : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void livesThroughNonsense_data();
+    void livesThroughNonsense();
+};
+
+void tst_RandomEvents::livesThroughNonsense_data()
+{
+    QTest::addColumn<int>("subject");
+    QTest::addColumn<quint32>("seed");
+
+    for (int i = 0; i < subjects().size(); ++i) {
+        for (quint32 seed = 1; seed <= 4; ++seed)
+            QTest::addRow("%s, seed %u", subjects().at(i).name, seed) << i << seed;
+    }
+}
+
+void tst_RandomEvents::livesThroughNonsense()
+{
+    QFETCH(int, subject);
+    QFETCH(quint32, seed);
+    // A crash leaves no report of the test behind, so the seed is told before.
+    std::fprintf(stderr, "%s, seed %u\n", subjects().at(subject).name, seed);
+    const std::unique_ptr<QWidget> widget(subjects().at(subject).make());
+    widget->show();
+    RandomEvents events(widget.get(), seed);
+
+    for (int i = 0; i < 1500; ++i) {
+        events.step();
+        if (QTest::currentTestFailed())
+            QFAIL(qPrintable(events.history().join(QLatin1Char('\n'))));
+    }
+    QApplication::processEvents();
+}
+
+PELORIN_TEST_MAIN(tst_RandomEvents)
+#include "tst_randomevents.moc"
