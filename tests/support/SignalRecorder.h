@@ -19,7 +19,10 @@ public:
 
     void watch(const QObject *watched, const QString &name, const QMetaObject *base = nullptr);
 
-    /// What came since the last call.
+    /// What came since the last call of taken().
+    QStringList entries() const { return m_entries; }
+
+    /// The same, and forgets it.
     QStringList taken();
 
     int qt_metacall(QMetaObject::Call call, int id, void **arguments) override;

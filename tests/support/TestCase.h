@@ -21,7 +21,7 @@ public:
     /// no locale but the plain one.
     static void prepareEnvironment();
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void init();
     void cleanup();
 };

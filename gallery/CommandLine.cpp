@@ -1,0 +1,74 @@
+#include "gallery/CommandLine.h"
+
+#include "gallery/Pages.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+
+/// The parser asks the application object for the program's name.
+QString helpText(const QCommandLineParser &parser)
+{
+    char name[] = "pelorin-gallery";
+    char *argv[] = { name, nullptr };
+    int argc = 1;
+    const QCoreApplication app(argc, argv);
+    return parser.helpText();
+}
+
+} // namespace
+
+CommandLine CommandLine::parse(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Shows the widgets of Pelorin."));
+    const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Show the page NAME."),
+                                  QStringLiteral("NAME"));
+    const QCommandLineOption list(QStringLiteral("list"),
+                                  QStringLiteral("Print the names of the pages."));
+    const QCommandLineOption snapshot(
+        QStringLiteral("snapshot"),
+        QStringLiteral(
+            "Write a picture of every page, or of the page NAME, to DIR; needs no display."),
+        QStringLiteral("DIR"));
+    const QCommandLineOption help({ QStringLiteral("h"), QStringLiteral("help") },
+                                  QStringLiteral("Print this text."));
+    parser.addOptions({ page, list, snapshot, help });
+
+    CommandLine result;
+    const bool understood = parser.parse(arguments);
+    if (!understood || !parser.positionalArguments().isEmpty()) {
+        result.action = Action::Complain;
+        result.text = understood ? QStringLiteral("Unexpected argument '%1'.")
+                                       .arg(parser.positionalArguments().first())
+                                 : parser.errorText();
+        return result;
+    }
+    result.page = parser.value(page);
+    result.directory = parser.value(snapshot);
+    if (parser.isSet(help)) {
+        result.action = Action::PrintHelp;
+        result.text = helpText(parser);
+    } else if (parser.isSet(list)) {
+        result.action = Action::PrintPages;
+    } else if (parser.isSet(page) && !findPage(result.page)) {
+        result.action = Action::Complain;
+        result.text =
+            QStringLiteral("There is no page '%1'; --list prints the names.").arg(result.page);
+    } else if (parser.isSet(snapshot)) {
+        result.action = Action::TakeSnapshots;
+    }
+    return result;
+}
+
+bool CommandLine::needsNoDisplay(const QStringList &arguments)
+{
+    static const QStringList options{ QStringLiteral("--snapshot"), QStringLiteral("--list"),
+                                      QStringLiteral("--help"), QStringLiteral("-h") };
+    return std::any_of(arguments.cbegin(), arguments.cend(), [](const QString &argument) {
+        return options.contains(argument.section(QLatin1Char('='), 0, 0));
+    });
+}

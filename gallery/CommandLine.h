@@ -1,0 +1,25 @@
+#ifndef PELORIN_GALLERY_COMMANDLINE_H
+#define PELORIN_GALLERY_COMMANDLINE_H
+
+#include <QString>
+#include <QStringList>
+
+/// What the words after the program's name ask for.
+struct CommandLine
+{
+    enum class Action { ShowWindow, PrintPages, TakeSnapshots, PrintHelp, Complain };
+
+    Action action = Action::ShowWindow;
+    QString page;      ///< the page to show or to take; empty for the first, or for all
+    QString directory; ///< for the snapshots
+    QString text;      ///< the help, or what is wrong, on one line
+
+    /// Needs no application object; Qt's own options must have been taken out.
+    static CommandLine parse(const QStringList &arguments);
+
+    /// Whether the words ask for something that needs no display. Can be asked before an
+    /// application object stands.
+    static bool needsNoDisplay(const QStringList &arguments);
+};
+
+#endif

@@ -1,0 +1,121 @@
+#include "gallery/GalleryWindow.h"
+
+#include "gallery/PageParts.h"
+#include "gallery/Pages.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int sidebarWidth = 216;
+const QSize preferredSize(1360, 860);
+
+/// The gallery's own parts, in the colours of the library's sheet, which is installed on the
+/// application.
+const QString windowSheet = QStringLiteral(R"(
+#sidebar { background-color: #87212E; }
+#brand { font-family: "Tavrin"; font-size: 26px; color: #FFF; }
+#sidebar QListWidget {
+    background-color: transparent; border: none; outline: 0px;
+    font-family: "Calibri"; font-size: 16px; color: #DDD;
+}
+#sidebar QListWidget::item { padding: 8px 16px; border: none; }
+#sidebar QListWidget::item:hover { background-color: #ED6E00; color: #FFF; }
+#sidebar QListWidget::item:selected { background-color: #FFF; color: #87212E; }
+#ground, #page { background-color: #F6F6F6; }
+#card { background-color: #FFF; border: 1px solid #DDD; border-radius: 6px; }
+#signalLog { background-color: #F6F6F6; color: #444; font-family: "DejaVu Sans Mono", monospace;
+    font-size: 12px; }
+)");
+
+} // namespace
+
+GalleryWindow::GalleryWindow(QWidget *parent)
+    : QWidget(parent)
+{
+    setWindowTitle(QStringLiteral("Pelorin Gallery"));
+    setStyleSheet(windowSheet);
+    resize(preferredSize);
+
+    m_stack = new QStackedWidget;
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeSidebar());
+    layout->addWidget(m_stack, 1);
+    connect(m_topics, &QListWidget::currentRowChanged, this, &GalleryWindow::showRow);
+    m_topics->setCurrentRow(0);
+}
+
+bool GalleryWindow::showPage(const QString &name)
+{
+    const Page *page = findPage(name);
+    if (!page)
+        return false;
+    m_topics->setCurrentRow(int(page - pages().constData()));
+    return true;
+}
+
+QWidget *GalleryWindow::makeSidebar()
+{
+    auto *sidebar = new QFrame;
+    sidebar->setObjectName(QStringLiteral("sidebar"));
+    sidebar->setFixedWidth(sidebarWidth);
+
+    auto *brand = new QLabel(QStringLiteral("Pelorin"));
+    brand->setObjectName(QStringLiteral("brand"));
+    m_topics = new QListWidget;
+    m_topics->setObjectName(QStringLiteral("topics"));
+    for (const Page &page : pages())
+        m_topics->addItem(page.title);
+
+    auto *layout = new QVBoxLayout(sidebar);
+    layout->setContentsMargins(0, 24, 0, 16);
+    layout->setSpacing(0);
+    auto *brandLayout = new QHBoxLayout;
+    brandLayout->setContentsMargins(16, 0, 16, 0);
+    brandLayout->addWidget(brand);
+    layout->addLayout(brandLayout);
+    layout->addSpacing(24);
+    layout->addWidget(m_topics, 1);
+    return sidebar;
+}
+
+QWidget *GalleryWindow::makePage(const Page &page)
+{
+    auto *ground = new QWidget;
+    ground->setObjectName(QStringLiteral("page"));
+    auto *layout = new QVBoxLayout(ground);
+    layout->setContentsMargins(24, 20, 24, 24);
+    layout->setSpacing(0);
+    layout->addWidget(PageParts::label(page.title, "heading"));
+    QLabel *summary = PageParts::label(page.summary, "text");
+    summary->setWordWrap(true);
+    layout->addWidget(summary);
+    layout->addSpacing(PageParts::gap);
+    layout->addWidget(page.build(), 1);
+
+    auto *scroll = new QScrollArea;
+    scroll->setObjectName(QStringLiteral("ground"));
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(ground);
+    return scroll;
+}
+
+void GalleryWindow::showRow(int row)
+{
+    if (row < 0)
+        return;
+    QWidget *&page = m_built[row];
+    if (!page) {
+        page = makePage(pages().at(row));
+        m_stack->addWidget(page);
+    }
+    m_stack->setCurrentWidget(page);
+}

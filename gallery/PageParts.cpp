@@ -1,0 +1,71 @@
+#include "gallery/PageParts.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <QVariant>
+
+namespace PageParts {
+
+namespace {
+
+QFrame *emptyCard()
+{
+    auto *result = new QFrame;
+    result->setObjectName(QStringLiteral("card"));
+    auto *layout = new QVBoxLayout(result);
+    layout->setContentsMargins(gap, gap - 4, gap, gap);
+    layout->setSpacing(2);
+    return result;
+}
+
+} // namespace
+
+QLabel *label(const QString &text, const char *type)
+{
+    auto *result = new QLabel(text);
+    result->setProperty("type", QString::fromLatin1(type));
+    return result;
+}
+
+QFrame *card(const QString &caption, const QString &note, QLayout *content)
+{
+    QFrame *result = emptyCard();
+    auto *layout = static_cast<QVBoxLayout *>(result->layout());
+    layout->addWidget(label(caption, "text-bold"));
+    if (!note.isEmpty()) {
+        QLabel *line = label(note, "text");
+        line->setWordWrap(true);
+        layout->addWidget(line);
+    }
+    layout->addSpacing(8);
+    layout->addLayout(content, 1);
+    return result;
+}
+
+QFrame *card(const QString &caption, const QString &note, QWidget *content)
+{
+    auto *layout = new QVBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(content);
+    return card(caption, note, layout);
+}
+
+QFrame *readoutCard(const QString &caption, QLabel *readout, QWidget *content)
+{
+    QFrame *result = emptyCard();
+    auto *layout = static_cast<QVBoxLayout *>(result->layout());
+    auto *head = new QHBoxLayout;
+    head->addWidget(label(caption, "text-bold"));
+    head->addStretch(1);
+    head->addWidget(readout);
+    layout->addLayout(head);
+    layout->addSpacing(6);
+    const bool upright = content->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+    layout->addWidget(content, 0, upright ? Qt::AlignHCenter : Qt::Alignment());
+    layout->addStretch(1);
+    return result;
+}
+
+} // namespace PageParts

@@ -1,0 +1,32 @@
+#ifndef PELORIN_GALLERY_PAGEPARTS_H
+#define PELORIN_GALLERY_PAGEPARTS_H
+
+#include <QString>
+
+class QFrame;
+class QLabel;
+class QLayout;
+class QWidget;
+
+/// The few parts from which every page is laid out, in the theme's own labels and colours.
+namespace PageParts {
+
+/// Space between cards, and from the edge of a page.
+constexpr int gap = 16;
+
+/// A label in one of the theme's types: "heading", "label", "text", "text-bold", ...
+QLabel *label(const QString &text, const char *type);
+
+/// A white card with \a caption over \a content, and a fainter \a note under the caption where
+/// there is something to add.
+QFrame *card(const QString &caption, const QString &note, QLayout *content);
+
+/// The same around a single widget.
+QFrame *card(const QString &caption, const QString &note, QWidget *content);
+
+/// A white card with \a readout at the right of \a caption, over \a content.
+QFrame *readoutCard(const QString &caption, QLabel *readout, QWidget *content);
+
+} // namespace PageParts
+
+#endif

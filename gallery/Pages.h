@@ -1,0 +1,27 @@
+#ifndef PELORIN_GALLERY_PAGES_H
+#define PELORIN_GALLERY_PAGES_H
+
+#include <QString>
+#include <QVector>
+
+class QWidget;
+
+/// One topic of the gallery.
+struct Page
+{
+    QString name;    ///< for the command line and for file names
+    QString title;   ///< for people
+    QString summary; ///< what is to be seen and tried, in a sentence or two
+    QWidget *(*build)();
+};
+
+/// All pages, in the order in which they are shown.
+const QVector<Page> &pages();
+
+/// The page called \a name, or null.
+const Page *findPage(const QString &name);
+
+// Each page is a function in a file of its own; the caller owns what it builds.
+QWidget *buildSliderPage();
+
+#endif

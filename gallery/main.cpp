@@ -1,0 +1,96 @@
+#include "gallery/CommandLine.h"
+#include "gallery/GalleryWindow.h"
+#include "gallery/Pages.h"
+#include "gallery/Snapshot.h"
+
+#include <Pelorin/Pelorin>
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace {
+
+QStringList argumentsOf(int argc, char *argv[])
+{
+    QStringList result;
+    for (int i = 0; i < argc; ++i)
+        result << QString::fromLocal8Bit(argv[i]);
+    return result;
+}
+
+int complain(const QString &text)
+{
+    std::fprintf(stderr, "pelorin-gallery: %s\n", qPrintable(text));
+    return 1;
+}
+
+void print(const QString &text)
+{
+    std::printf("%s\n", qPrintable(text.trimmed()));
+}
+
+/// The offscreen platform complains of what a picture does not need.
+void dropPlatformNoise(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+/// The order in which every application starts that uses the library.
+void prepare(QApplication &app)
+{
+    QApplication::setApplicationName(QStringLiteral("pelorin-gallery"));
+    Pelorin::loadApplicationFonts();
+    app.setStyleSheet(Pelorin::getApplicationStylesheet());
+}
+
+/// Everything but the window. A picture is the same on every machine, with or without a display.
+int runWithoutDisplay(int argc, char *argv[])
+{
+    const CommandLine command = CommandLine::parse(argumentsOf(argc, argv));
+    switch (command.action) {
+    case CommandLine::Action::PrintHelp:
+        print(command.text);
+        return 0;
+    case CommandLine::Action::PrintPages:
+        for (const Page &page : pages())
+            print(page.name);
+        return 0;
+    case CommandLine::Action::TakeSnapshots: {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_FONT_DPI", "96");
+        qunsetenv("QT_SCALE_FACTOR");
+        qInstallMessageHandler(dropPlatformNoise);
+        QApplication app(argc, argv);
+        prepare(app);
+        const QString trouble = takeSnapshots(command.directory, command.page);
+        return trouble.isEmpty() ? 0 : complain(trouble);
+    }
+    default:
+        return complain(command.text);
+    }
+}
+
+int showWindow(int argc, char *argv[])
+{
+    QApplication app(argc, argv); // takes Qt's own options out of the arguments
+    const CommandLine command = CommandLine::parse(QApplication::arguments());
+    if (command.action == CommandLine::Action::Complain)
+        return complain(command.text);
+    prepare(app);
+    GalleryWindow window;
+    if (!command.page.isEmpty())
+        window.showPage(command.page);
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (CommandLine::needsNoDisplay(argumentsOf(argc, argv)))
+        return runWithoutDisplay(argc, argv);
+    return showWindow(argc, argv);
+}

@@ -1,0 +1,170 @@
+#include "tests/support/TestCase.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+
+namespace {
+
+struct Result
+{
+    int code = -1;
+    QStringList out;
+    QStringList err;
+};
+
+QStringList lines(const QByteArray &bytes)
+{
+    return QString::fromLocal8Bit(bytes).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+/// Runs the gallery as on a machine that has no display at all.
+Result gallery(const QStringList &arguments)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("DISPLAY"));
+    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    const QTemporaryDir runtime;
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(PELORIN_GALLERY), arguments);
+    Result result;
+    if (process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit)
+        result.code = process.exitCode();
+    result.out = lines(process.readAllStandardOutput());
+    result.err = lines(process.readAllStandardError());
+    return result;
+}
+
+/// Colours on a coarse grid; a page that shows nothing has a handful.
+int colours(const QImage &image)
+{
+    QSet<QRgb> found;
+    for (int y = 0; y < image.height(); y += 3) {
+        for (int x = 0; x < image.width(); x += 3)
+            found.insert(image.pixel(x, y));
+    }
+    return found.size();
+}
+
+} // namespace
+
+class tst_Gallery : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void printsHelp();
+    void listsItsPages();
+    void takesAPictureOfEveryPage();
+    void takesAPictureOfOnePage();
+    void takesTheSamePictureTwice();
+    void complainsInOneLine_data();
+    void complainsInOneLine();
+};
+
+void tst_Gallery::printsHelp()
+{
+    const Result result = gallery({ QStringLiteral("--help") });
+
+    QCOMPARE(result.code, 0);
+    QVERIFY(result.out.first().contains(QStringLiteral("pelorin-gallery")));
+    QCOMPARE(result.err, QStringList());
+}
+
+void tst_Gallery::listsItsPages()
+{
+    Result result = gallery({ QStringLiteral("--list") });
+
+    QCOMPARE(result.code, 0);
+    QVERIFY(result.out.contains(QStringLiteral("sliders")));
+    QCOMPARE(result.out.removeDuplicates(), 0);
+    QCOMPARE(result.err, QStringList());
+}
+
+void tst_Gallery::takesAPictureOfEveryPage()
+{
+    QTemporaryDir dir;
+    const QString place = dir.filePath(QStringLiteral("new/folder"));
+
+    const Result result = gallery({ QStringLiteral("--snapshot"), place });
+
+    QCOMPARE(result.err, QStringList());
+    QCOMPARE(result.code, 0);
+    const QStringList names = gallery({ QStringLiteral("--list") }).out;
+    QCOMPARE(QDir(place).entryList(QDir::Files).size(), names.size());
+    for (const QString &name : names) {
+        const QImage image(QDir(place).filePath(name + QStringLiteral(".png")));
+        QCOMPARE(image.size(), QSize(1360, 860));
+        QVERIFY2(colours(image) > 20, qPrintable(name));
+    }
+}
+
+void tst_Gallery::takesAPictureOfOnePage()
+{
+    QTemporaryDir dir;
+
+    const Result result = gallery({ QStringLiteral("--page"), QStringLiteral("sliders"),
+                                    QStringLiteral("--snapshot"), dir.path() });
+
+    QCOMPARE(result.code, 0);
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList(QStringLiteral("sliders.png")));
+}
+
+void tst_Gallery::takesTheSamePictureTwice()
+{
+    QTemporaryDir dir;
+    QImage images[2];
+    for (QImage &image : images) {
+        QCOMPARE(gallery({ QStringLiteral("--page=sliders"),
+                           QStringLiteral("--snapshot=") + dir.path() })
+                     .code,
+                 0);
+        image = QImage(dir.filePath(QStringLiteral("sliders.png")));
+    }
+
+    QVERIFY(!images[0].isNull());
+    QCOMPARE(images[0], images[1]);
+}
+
+void tst_Gallery::complainsInOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+
+    const QString snapshot = QStringLiteral("--snapshot");
+    QTest::newRow("unknown page") << QStringList{ snapshot, QDir::tempPath(),
+                                                  QStringLiteral("--page"),
+                                                  QStringLiteral("nowhere") };
+    QTest::newRow("directory that cannot be made")
+        << QStringList{ snapshot, QStringLiteral("/proc/pictures") };
+    QTest::newRow("a file where the directory should be")
+        << QStringList{ snapshot, QStringLiteral("/etc/hostname") };
+    QTest::newRow("directory that cannot be written")
+        << QStringList{ snapshot, QStringLiteral("/proc") };
+    QTest::newRow("no directory") << QStringList{ snapshot, QString() };
+    QTest::newRow("no word for the directory") << QStringList{ snapshot };
+    QTest::newRow("unknown option")
+        << QStringList{ snapshot, QDir::tempPath(), QStringLiteral("--loud") };
+    QTest::newRow("stray word") << QStringList{ snapshot, QDir::tempPath(),
+                                                QStringLiteral("sliders") };
+}
+
+void tst_Gallery::complainsInOneLine()
+{
+    QFETCH(QStringList, arguments);
+
+    const Result result = gallery(arguments);
+
+    QVERIFY(result.code > 0);
+    QCOMPARE(result.err.size(), 1);
+    QVERIFY(result.err.first().startsWith(QLatin1String("pelorin-gallery: ")));
+    QCOMPARE(result.out, QStringList());
+}
+
+PELORIN_TEST_MAIN(tst_Gallery)
+#include "tst_gallery.moc"
