@@ -176,8 +176,10 @@ void RandomEvents::writeProperty()
     if (m_properties.isEmpty())
         return;
     const QMetaProperty &property = m_properties.at(m_random.bounded(m_properties.size()));
-    const QVariant wanted =
-        property.isEnumType() ? QVariant(m_random.bounded(-1, 6)) : value(property.userType());
+    // Other numbers than its own are no values of an enumeration.
+    const QMetaEnum keys = property.enumerator();
+    const QVariant wanted = property.isEnumType() ? keys.value(m_random.bounded(keys.keyCount()))
+                                                  : value(property.userType());
     note(QStringLiteral("%1 = %2").arg(QLatin1String(property.name()), wanted.toString().left(30)));
     property.write(m_widget, wanted);
 }
