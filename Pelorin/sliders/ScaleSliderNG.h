@@ -327,7 +327,7 @@ private:
     Flags m_grabbed = {};
     Flags m_focused = {};
     QMap<int, tLabelItem> m_labels;
-    std::array<HandleView, 2> m_paintedHandles;
+    std::array<HandleView, 2> m_shownHandles;
     std::unique_ptr<Layers> m_layers;
 };
 

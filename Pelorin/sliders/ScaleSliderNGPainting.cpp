@@ -9,6 +9,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace {
 
 /// How far outlines and square line ends may reach beyond the rectangles that they belong to.
@@ -64,16 +66,20 @@ ScaleSliderNG::HandleView ScaleSliderNG::handleView(int index) const
     return view;
 }
 
-/// Repaints where a handle was and where it is now, and nothing if it looks as it was painted.
+/// Repaints where a handle was and where it is now, and nothing if it still looks the same.
 void ScaleSliderNG::updateHandles()
 {
     for (int i = 0; i < 2; ++i) {
-        const HandleView painted = m_paintedHandles[i];
-        const HandleView now = handleView(i);
-        if (now.rect == painted.rect && now.look == painted.look)
+        const HandleView before = std::exchange(m_shownHandles[i], handleView(i));
+        const HandleView &now = m_shownHandles[i];
+        if (now.rect == before.rect && now.look == before.look)
             continue;
-        if (!painted.rect.isNull())
-            update(grown(painted.rect));
+        if (before.rect.intersects(now.rect)) {
+            update(grown(before.rect | now.rect)); // a short way, as in most steps of a drag
+            continue;
+        }
+        if (!before.rect.isNull())
+            update(grown(before.rect));
         if (!now.rect.isNull())
             update(grown(now.rect));
     }
@@ -95,12 +101,12 @@ void ScaleSliderNG::drawTrack(QPainter &painter) const
 /// The handle that was touched last lies on top.
 void ScaleSliderNG::drawHandles(QPainter &painter)
 {
-    m_paintedHandles = { handleView(0), handleView(1) };
+    m_shownHandles = { handleView(0), handleView(1) }; // Qt repaints for reasons of its own as well
     const bool secondOnTop = m_grabbed[1] || (hasFocus() && m_focused[1]);
     const std::array<int, 2> order =
         secondOnTop ? std::array<int, 2>{ 0, 1 } : std::array<int, 2>{ 1, 0 };
     for (const int index : order) {
-        const HandleView &view = m_paintedHandles[index];
+        const HandleView &view = m_shownHandles[index];
         if (view.rect.isNull())
             continue;
         const QRect bounds = grown(view.rect);

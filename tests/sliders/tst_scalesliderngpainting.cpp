@@ -707,7 +707,7 @@ void tst_ScaleSliderNGPainting::paintsTheSameInPartAndWhole_data()
     QTest::addColumn<bool>("twoHandles");
 
     for (const int orientation : { int(Qt::Horizontal), int(Qt::Vertical) }) {
-        for (const qreal ratio : { 1.0, 1.25, 1.5, 2.0 }) {
+        for (const qreal ratio : { 1.0, 1.1, 1.25, 1.5, 1.75, 2.0 }) {
             for (const bool small : { false, true }) {
                 QTest::addRow("%s, ratio %.2f, %s",
                               orientation == Qt::Horizontal ? "horizontal" : "vertical", ratio,
