@@ -127,6 +127,7 @@ private Q_SLOTS:
 
     void placesHorizontalLabels();
     void placesVerticalLabels();
+    void keepsTallVerticalLabelsInside();
     void movesTheHandleAlongItsTravel_data();
     void movesTheHandleAlongItsTravel();
     void colorsTheHandleByItsState();
@@ -398,7 +399,7 @@ void tst_ScaleSliderNGPainting::keepsTheLabelsOfAnUnknownType()
 void tst_ScaleSliderNGPainting::placesHorizontalLabels()
 {
     Slider slider(ScaleSliderNG::ScaleLinear, Qt::Horizontal, 1035);
-    slider.setLabelDecimalDigits(2);
+    slider.setLabelDecimalDigits(6);
     const QFontMetrics metrics(slider.font());
     const PaintRecorder paper(slider);
 
@@ -416,13 +417,20 @@ void tst_ScaleSliderNGPainting::placesHorizontalLabels()
     QCOMPARE(paper.find(QStringLiteral("50.0")).font.pointSize(), 10);
 
     // The upper end is wide: it is kept inside the band, and then moved in once more.
-    const int box = width("100.00") + 2;
+    const int box = width("100.000000") + 2;
     const int half = box / 2;
     QVERIFY(1017 + half > 1035);
     const int inside = 1035 - box;
     const int shift = 1035 - (1017 + half);
     const double center = inside + shift + box / 2.0;
-    QVERIFY(qAbs(left("100.00") + width("100.00") / 2.0 - center) <= 1.0);
+    QVERIFY(shift < -5);
+    QVERIFY(qAbs(left("100.000000") + width("100.000000") / 2.0 - center) <= 1.0);
+
+    // The lower end likewise, to the other side.
+    const int lowBox = width("0.000000") + 2;
+    QVERIFY(17 - lowBox / 2 < 0);
+    const double lowCenter = (lowBox / 2 - 17) + lowBox / 2.0;
+    QVERIFY(qAbs(left("0.000000") + width("0.000000") / 2.0 - lowCenter) <= 1.0);
 }
 
 void tst_ScaleSliderNGPainting::placesVerticalLabels()
@@ -441,6 +449,24 @@ void tst_ScaleSliderNGPainting::placesVerticalLabels()
     QCOMPARE(qRound(text("50.0").baseline.y()), 517 - slider.labelHeight() / 2 + metrics.ascent());
     QCOMPARE(qRound(text("100").baseline.y()), 17 - slider.labelHeight() / 2 + metrics.ascent());
     QCOMPARE(qRound(text("0").baseline.y()), 1017 - slider.labelHeight() / 2 + metrics.ascent());
+}
+
+void tst_ScaleSliderNGPainting::keepsTallVerticalLabelsInside()
+{
+    // A sheet may give the widget a font that is taller than a handle; it then rules the layout,
+    // while the labels are still drawn in their own.
+    Slider slider(ScaleSliderNG::ScaleLinear, Qt::Vertical, 1035);
+    slider.setStyleSheet(QStringLiteral("ScaleSliderNG { font-size: 60px; }"));
+    slider.setOrientation(Qt::Vertical);
+    slider.resize(slider.width(), 1035);
+    const int tall = slider.labelHeight();
+    QVERIFY(tall > 36);
+    const int ascent = QFontMetrics(QFont(QStringLiteral("Calibri"), 10)).ascent();
+
+    const PaintRecorder paper(slider);
+
+    QCOMPARE(qRound(paper.find(QStringLiteral("100")).baseline.y()), ascent);
+    QCOMPARE(qRound(paper.find(QStringLiteral("0")).baseline.y()), 1035 - tall + ascent);
 }
 
 void tst_ScaleSliderNGPainting::movesTheHandleAlongItsTravel_data()
