@@ -1,8 +1,10 @@
 #include "gallery/PageParts.h"
 
+#include <QApplication>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -66,6 +68,23 @@ QFrame *readoutCard(const QString &caption, QLabel *readout, QWidget *content)
     layout->addWidget(content, 0, upright ? Qt::AlignHCenter : Qt::Alignment());
     layout->addStretch(1);
     return result;
+}
+
+void freeze(QWidget *widget)
+{
+    widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+    widget->setFocusPolicy(Qt::NoFocus);
+}
+
+void freezeHovered(QWidget *widget)
+{
+    freeze(widget);
+    widget->ensurePolished();
+    widget->setAttribute(Qt::WA_UnderMouse);
+    // Buttons believe it only when the mouse has moved on them.
+    const QPointF onIt(8, widget->height() / 2);
+    QMouseEvent move(QEvent::MouseMove, onIt, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(widget, &move);
 }
 
 } // namespace PageParts

@@ -27,6 +27,12 @@ QFrame *card(const QString &caption, const QString &note, QWidget *content);
 /// A white card with \a readout at the right of \a caption, over \a content.
 QFrame *readoutCard(const QString &caption, QLabel *readout, QWidget *content);
 
+/// Makes \a widget a specimen: it keeps the state it is in, whatever mouse and keyboard do.
+void freeze(QWidget *widget);
+
+/// A specimen of what \a widget looks like under the mouse.
+void freezeHovered(QWidget *widget);
+
 } // namespace PageParts
 
 #endif

@@ -23,5 +23,8 @@ const Page *findPage(const QString &name);
 
 // Each page is a function in a file of its own; the caller owns what it builds.
 QWidget *buildSliderPage();
+QWidget *buildThemePage();
+QWidget *buildControlsPage();
+QWidget *buildPicturesPage();
 
 #endif
