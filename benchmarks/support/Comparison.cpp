@@ -22,7 +22,7 @@ public:
                 std::fprintf(stderr, "%s: %s\n", run.benchmark_name().c_str(),
                              run.error_message.c_str());
             else if (run.aggregate_name == "median")
-                m_medians[run.run_name.function_name] = run.GetAdjustedCPUTime();
+                m_medians[run.run_name.function_name] = timeOf(run);
         }
     }
 
@@ -33,6 +33,12 @@ public:
     }
 
 private:
+    static double timeOf(const Run &run)
+    {
+        const bool timedItself = !run.run_name.time_type.empty();
+        return timedItself ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
+    }
+
     std::map<std::string, double> m_medians;
 };
 
@@ -53,6 +59,8 @@ void registerOne(const Comparison &comparison, const std::string &side,
 {
     auto *registered = benchmark::RegisterBenchmark(caseName(comparison, side).c_str(), body);
     registered->Unit(comparison.unit)->Repetitions(repetitions);
+    if (comparison.timesItself)
+        registered->UseManualTime();
     if (comparison.iterations > 0)
         registered->Iterations(comparison.iterations);
 }

@@ -27,6 +27,9 @@ struct Comparison
     benchmark::TimeUnit unit = benchmark::kMicrosecond;
     int iterations =
         0; ///< fixed, for cases that are too heavy to be repeated at will; 0 lets it be found
+    /// The bodies measure by themselves and tell SetIterationTime(), as for what another process
+    /// does.
+    bool timesItself = false;
 };
 
 /// Runs the comparisons in an offscreen application and prints a row for each peer. The arguments
