@@ -1,3 +1,9 @@
+#include "Pelorin/shell/ContainerWidget.h"
+#include "Pelorin/shell/GUIOverlay.h"
+#include "Pelorin/shell/GUIWidget.h"
+#include "Pelorin/shell/OverlayImage.h"
+#include "Pelorin/shell/QWidgetNG.h"
+#include "Pelorin/shell/SplashImage.h"
 #include "Pelorin/sliders/ScaleSliderNG.h"
 #include "tests/support/RandomEvents.h"
 #include "tests/support/TestCase.h"
@@ -18,6 +24,12 @@ struct Subject
 const QVector<Subject> &subjects()
 {
     static const QVector<Subject> list{
+        { "ContainerWidget", [] { return new ContainerWidget; } },
+        { "GUIOverlay", [] { return new GUIOverlay; } },
+        { "GUIWidget", [] { return new GUIWidget; } },
+        { "OverlayImage", [] { return new OverlayImage; } },
+        { "QWidgetNG", [] { return new QWidgetNG; } },
+        { "SplashImage", [] { return new SplashImage; } },
         { "ScaleSliderNG, horizontal",
           [] { return new ScaleSliderNG(Qt::Horizontal, ScaleSliderNG::ScaleLinear, nullptr); } },
         { "ScaleSliderNG, vertical steps",

@@ -5,9 +5,10 @@
 class PaintRecorder::Engine : public QPaintEngine
 {
 public:
-    explicit Engine(QVector<Text> &texts)
+    Engine(QVector<Text> &texts, QVector<Pixmap> &pixmaps)
         : QPaintEngine(AllFeatures)
         , m_texts(texts)
+        , m_pixmaps(pixmaps)
     {}
 
     bool begin(QPaintDevice *) override { return true; }
@@ -19,7 +20,10 @@ public:
         if (change.state() & DirtyPen)
             m_color = change.pen().color();
     }
-    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
+    void drawPixmap(const QRectF &place, const QPixmap &pixmap, const QRectF &) override
+    {
+        m_pixmaps.append({ pixmap, m_transform.mapRect(place) });
+    }
     void drawPath(const QPainterPath &) override {}
     void drawPolygon(const QPointF *, int, PolygonDrawMode) override {}
     void drawTextItem(const QPointF &point, const QTextItem &item) override
@@ -30,12 +34,13 @@ public:
 
 private:
     QVector<Text> &m_texts;
+    QVector<Pixmap> &m_pixmaps;
     QTransform m_transform;
     QColor m_color;
 };
 
 PaintRecorder::PaintRecorder(QWidget &widget)
-    : m_engine(std::make_unique<Engine>(m_texts))
+    : m_engine(std::make_unique<Engine>(m_texts, m_pixmaps))
     , m_size(widget.size())
 {
     widget.render(this, QPoint(), QRegion(), QWidget::DrawChildren);
