@@ -1,5 +1,6 @@
 #include "Pelorin/shell/ContainerWidget.h"
 
+#include "Pelorin/theme/StyleProperty_p.h"
 #include "Pelorin/theme/StyledBackground_p.h"
 
 ContainerWidget::ContainerWidget(QWidget *parent)
@@ -8,7 +9,7 @@ ContainerWidget::ContainerWidget(QWidget *parent)
 
 void ContainerWidget::setDarkBackground(bool dark)
 {
-    setProperty("widget-color", dark ? QStringLiteral("light-grey") : QStringLiteral("white"));
+    setProperty(StyleProperty::widgetColor, dark ? WidgetColor::lightGrey : WidgetColor::white);
 }
 
 void ContainerWidget::paintEvent(QPaintEvent *)

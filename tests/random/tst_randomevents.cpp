@@ -1,3 +1,11 @@
+#include "Pelorin/controls/Button.h"
+#include "Pelorin/controls/Display.h"
+#include "Pelorin/controls/GridLineNG.h"
+#include "Pelorin/controls/IconLabel.h"
+#include "Pelorin/controls/Indicator.h"
+#include "Pelorin/controls/IndicatorButton.h"
+#include "Pelorin/controls/ShowHideButton.h"
+#include "Pelorin/controls/VerticalLabel.h"
 #include "Pelorin/shell/ContainerWidget.h"
 #include "Pelorin/shell/GUIOverlay.h"
 #include "Pelorin/shell/GUIWidget.h"
@@ -24,6 +32,14 @@ struct Subject
 const QVector<Subject> &subjects()
 {
     static const QVector<Subject> list{
+        { "Button", [] { return new Button(QStringLiteral("Start")); } },
+        { "Display", [] { return new Display(2, 10); } },
+        { "GridLineNG", [] { return new GridLineNG(GridLineNG::Cross); } },
+        { "IconLabel", [] { return new IconLabel(QStringLiteral("Laser")); } },
+        { "Indicator", [] { return new Indicator; } },
+        { "IndicatorButton", [] { return new IndicatorButton(IndicatorButton::Above); } },
+        { "ShowHideButton", [] { return new ShowHideButton; } },
+        { "VerticalLabel", [] { return new VerticalLabel(QStringLiteral("Power")); } },
         { "ContainerWidget", [] { return new ContainerWidget; } },
         { "GUIOverlay", [] { return new GUIOverlay; } },
         { "GUIWidget", [] { return new GUIWidget; } },

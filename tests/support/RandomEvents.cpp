@@ -40,8 +40,18 @@ bool isPlainType(int type)
     }
 }
 
+/// What Qt itself does not take without complaint.
+bool isTouchy(const char *name)
+{
+    static const QList<QByteArray> names{ "autoRepeatDelay", "autoRepeatInterval", "animateClick",
+                                          "lineWidth", "midLineWidth" };
+    return names.contains(name);
+}
+
 bool isCallable(const QMetaMethod &method)
 {
+    if (isTouchy(method.name()))
+        return false;
     if (method.methodType() != QMetaMethod::Slot || method.access() != QMetaMethod::Public)
         return false;
     for (int i = 0; i < method.parameterCount(); ++i) {
@@ -64,7 +74,8 @@ RandomEvents::RandomEvents(QWidget *widget, quint32 seed)
     }
     for (int i = QWidget::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
-        if (property.isWritable() && (property.isEnumType() || isPlainType(property.userType())))
+        if (property.isWritable() && !isTouchy(property.name())
+            && (property.isEnumType() || isPlainType(property.userType())))
             m_properties << property;
     }
 }
@@ -95,6 +106,7 @@ void RandomEvents::step()
         resizeOrToggle();
         break;
     }
+    keepOnScreen();
     if (m_random.bounded(8) == 0)
         QApplication::processEvents();
 }
@@ -269,6 +281,16 @@ void RandomEvents::resizeOrToggle()
         }
         break;
     }
+}
+
+/// A size that was fixed far beyond any screen is taken back before it is painted.
+void RandomEvents::keepOnScreen()
+{
+    if (!m_widget || (m_widget->width() <= largestSide && m_widget->height() <= largestSide))
+        return;
+    m_widget->setMinimumSize(0, 0);
+    m_widget->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    m_widget->resize(m_widget->size().boundedTo(QSize(largestSide, largestSide)));
 }
 
 void RandomEvents::note(const QString &action)

@@ -30,6 +30,7 @@ private:
     void sendMouse();
     void sendKey();
     void resizeOrToggle();
+    void keepOnScreen();
     QVariant value(int type);
     double number();
     int integer();
