@@ -3,21 +3,36 @@
 #include "gallery/PageParts.h"
 #include "gallery/Pages.h"
 
+#include <Pelorin/CenterTabWidget>
+#include <Pelorin/DockWidget>
+
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QScrollArea>
-#include <QStackedWidget>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int sidebarWidth = 216;
-const QSize preferredSize(1360, 860);
+const QSize preferredSize(1440, 900);
+const char mainWindowProperty[] = "APPLICATIONWINDOWPTR";
 
 /// The gallery's own parts, in the colours of the library's sheet, which is installed on the
 /// application.
 const QString windowSheet = QStringLiteral(R"(
+DockWidget { font-family: "Calibri"; font-size: 14px; color: #444; }
+DockWidget::title { background-color: #DDD; padding: 6px 16px; }
+CenterTabWidget > QTabWidget > QTabBar::tab {
+    font-family: "Calibri"; font-size: 15px; color: #666; background-color: #DDD;
+    padding: 6px 16px; border: none; border-right: 1px solid #F6F6F6; border-top: 3px solid #DDD;
+}
+CenterTabWidget > QTabWidget > QTabBar::tab:hover { background-color: #ED6E00; color: #FFF; }
+CenterTabWidget > QTabWidget > QTabBar::tab:selected {
+    background-color: #F6F6F6; color: #444; border-top: 3px solid #87212E;
+}
 #sidebar { background-color: #87212E; }
 #brand { font-family: "Tavrin"; font-size: 26px; color: #FFF; }
 #sidebar QListWidget {
@@ -36,20 +51,24 @@ const QString windowSheet = QStringLiteral(R"(
 } // namespace
 
 GalleryWindow::GalleryWindow(QWidget *parent)
-    : QWidget(parent)
+    : TavrinMainWindow(parent)
+    , m_tabs(centerTabWidget()->findChild<QTabWidget *>())
 {
+    qApp->setProperty(mainWindowProperty,
+                      QVariant::fromValue(static_cast<TavrinMainWindow *>(this)));
     setWindowTitle(QStringLiteral("Pelorin Gallery"));
     setStyleSheet(windowSheet);
     resize(preferredSize);
 
-    m_stack = new QStackedWidget;
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(makeSidebar());
-    layout->addWidget(m_stack, 1);
+    createGenericDockWidget(makeSidebar(), QStringLiteral("Topics"), Qt::LeftDockWidgetArea, true);
+    m_tabs->setDocumentMode(true);
     connect(m_topics, &QListWidget::currentRowChanged, this, &GalleryWindow::showRow);
-    m_topics->setCurrentRow(0);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &GalleryWindow::followTab);
+}
+
+GalleryWindow::~GalleryWindow()
+{
+    qApp->setProperty(mainWindowProperty, QVariant());
 }
 
 bool GalleryWindow::showPage(const QString &name)
@@ -65,7 +84,7 @@ QWidget *GalleryWindow::makeSidebar()
 {
     auto *sidebar = new QFrame;
     sidebar->setObjectName(QStringLiteral("sidebar"));
-    sidebar->setFixedWidth(sidebarWidth);
+    sidebar->setMinimumWidth(sidebarWidth);
 
     auto *brand = new QLabel(QStringLiteral("Pelorin"));
     brand->setObjectName(QStringLiteral("brand"));
@@ -112,10 +131,17 @@ void GalleryWindow::showRow(int row)
 {
     if (row < 0)
         return;
-    QWidget *&page = m_built[row];
-    if (!page) {
-        page = makePage(pages().at(row));
-        m_stack->addWidget(page);
+    if (QWidget *page = m_built.value(row)) {
+        centerTabWidget()->selectCenterWidget(page);
+        return;
     }
-    m_stack->setCurrentWidget(page);
+    QWidget *page = makePage(pages().at(row));
+    m_built.insert(row, page);
+    createSystemWidget(page, pages().at(row).title, false, true);
+}
+
+/// The topic of the tab in front is the chosen one; the welcome page has none.
+void GalleryWindow::followTab(int index)
+{
+    m_topics->setCurrentRow(m_built.key(m_tabs->widget(index), -1));
 }

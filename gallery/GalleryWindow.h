@@ -1,33 +1,37 @@
 #ifndef PELORIN_GALLERY_GALLERYWINDOW_H
 #define PELORIN_GALLERY_GALLERYWINDOW_H
 
+#include <Pelorin/TavrinMainWindow>
+
 #include <QHash>
-#include <QWidget>
 
 class QListWidget;
-class QStackedWidget;
+class QTabWidget;
 struct Page;
 
-/// The window of the gallery: the topics at the left, the chosen page beside them. A page is built
-/// when it is first shown.
-class GalleryWindow : public QWidget
+/// The window of the gallery, put together as an application does it: the topics stand in a dock,
+/// and the page of a topic opens in a tab when it is first chosen.
+class GalleryWindow : public TavrinMainWindow
 {
     Q_OBJECT
 
 public:
+    /// Stores itself as the main window of the application, so that popups of the pages follow it.
     explicit GalleryWindow(QWidget *parent = nullptr);
+    ~GalleryWindow() override;
 
-    /// Shows the page called \a name and chooses its topic; false if there is none.
+    /// Opens the page called \a name, or comes back to it; false if there is none.
     bool showPage(const QString &name);
 
 private:
     QWidget *makeSidebar();
     QWidget *makePage(const Page &page);
     void showRow(int row);
+    void followTab(int index);
 
     QListWidget *m_topics = nullptr;
-    QStackedWidget *m_stack = nullptr;
-    QHash<int, QWidget *> m_built;
+    QTabWidget *m_tabs = nullptr;
+    QHash<int, QWidget *> m_built; ///< by row of the topics
 };
 
 #endif

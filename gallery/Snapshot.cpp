@@ -9,10 +9,16 @@
 
 namespace {
 
-const QSize snapshotSize(1360, 860);
+const QSize snapshotSize(1440, 900);
 
-bool save(GalleryWindow &window, const QString &name, const QString &path)
+/// Each page is taken in a window of its own, so that the picture does not depend on what was open
+/// before.
+bool save(const QString &name, const QString &path)
 {
+    GalleryWindow window;
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.resize(snapshotSize);
+    window.show();
     window.showPage(name);
     QApplication::processEvents(); // layouts settle
     return window.grab().save(path, "PNG");
@@ -26,15 +32,11 @@ QString takeSnapshots(const QString &directory, const QString &page)
     if (directory.isEmpty() || !dir.mkpath(QStringLiteral(".")))
         return QStringLiteral("Cannot make the directory '%1'.").arg(directory);
 
-    GalleryWindow window;
-    window.setAttribute(Qt::WA_DontShowOnScreen);
-    window.resize(snapshotSize);
-    window.show();
     for (const Page &each : pages()) {
         if (!page.isEmpty() && each.name != page)
             continue;
         const QString path = dir.filePath(each.name + QStringLiteral(".png"));
-        if (!save(window, each.name, path))
+        if (!save(each.name, path))
             return QStringLiteral("Cannot write '%1'.").arg(path);
     }
     return QString();

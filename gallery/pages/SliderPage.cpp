@@ -11,7 +11,7 @@
 namespace {
 
 /// As tall as the five rows of horizontal sliders beside it.
-constexpr int tallest = 560;
+constexpr int tallest = 540;
 
 ScaleSliderNG *makeSlider(const char *name, Qt::Orientation orientation,
                           ScaleSliderNG::ScaleType type)

@@ -100,7 +100,7 @@ void tst_Gallery::takesAPictureOfEveryPage()
     QCOMPARE(QDir(place).entryList(QDir::Files).size(), names.size());
     for (const QString &name : names) {
         const QImage image(QDir(place).filePath(name + QStringLiteral(".png")));
-        QCOMPARE(image.size(), QSize(1360, 860));
+        QCOMPARE(image.size(), QSize(1440, 900));
         QVERIFY2(colours(image) > 20, qPrintable(name));
     }
 }

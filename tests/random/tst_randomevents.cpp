@@ -6,12 +6,17 @@
 #include "Pelorin/controls/IndicatorButton.h"
 #include "Pelorin/controls/ShowHideButton.h"
 #include "Pelorin/controls/VerticalLabel.h"
+#include "Pelorin/shell/CenterTabWidget.h"
+#include "Pelorin/shell/ColHeader.h"
 #include "Pelorin/shell/ContainerWidget.h"
+#include "Pelorin/shell/DockWidget.h"
 #include "Pelorin/shell/GUIOverlay.h"
 #include "Pelorin/shell/GUIWidget.h"
+#include "Pelorin/shell/MainControlPanel.h"
 #include "Pelorin/shell/OverlayImage.h"
 #include "Pelorin/shell/QWidgetNG.h"
 #include "Pelorin/shell/SplashImage.h"
+#include "Pelorin/shell/TavrinMainWindow.h"
 #include "Pelorin/sliders/ScaleSliderNG.h"
 #include "tests/support/RandomEvents.h"
 #include "tests/support/TestCase.h"
@@ -40,6 +45,12 @@ const QVector<Subject> &subjects()
         { "IndicatorButton", [] { return new IndicatorButton(IndicatorButton::Above); } },
         { "ShowHideButton", [] { return new ShowHideButton; } },
         { "VerticalLabel", [] { return new VerticalLabel(QStringLiteral("Power")); } },
+        { "CenterTabWidget", [] { return new CenterTabWidget; } },
+        { "ColHeader", [] { return new ColHeader; } },
+        { "DockWidget",
+          [] { return new DockWidget(QStringLiteral("Trigger"), Qt::LeftDockWidgetArea, true); } },
+        { "MainControlPanel", [] { return new MainControlPanel; } },
+        { "TavrinMainWindow", [] { return new TavrinMainWindow; } },
         { "ContainerWidget", [] { return new ContainerWidget; } },
         { "GUIOverlay", [] { return new GUIOverlay; } },
         { "GUIWidget", [] { return new GUIWidget; } },
