@@ -17,6 +17,12 @@ public:
     /// without a place in the source.
     static void expectMessage(QtMsgType type, const QString &text);
 
+    /// Lets all messages pass that begin with \a prefix, however many come.
+    static void allowMessages(const QString &prefix);
+
+    /// How many announced messages have not come yet.
+    static int pendingMessages();
+
     /// Before the application object stands: the same resolution for widgets and for pixmaps, and
     /// no locale but the plain one.
     static void prepareEnvironment();
