@@ -22,6 +22,26 @@ const QVector<Page> &pages()
               "Drag a handle, or give it the keyboard with Tab and use the arrows; Shift "
               "makes ten steps of one. The number beside a slider follows its signals."),
           buildSliderPage },
+        { QStringLiteral("buttons"), QStringLiteral("Buttons"),
+          QStringLiteral("The push button in every size, colour and state. Those that are not "
+                         "specimens of a state can be pressed."),
+          buildButtonPage },
+        { QStringLiteral("indicators"), QStringLiteral("Indicators"),
+          QStringLiteral("Lamps, steady, blinking or flashing once, and the buttons that carry "
+                         "one. A press is a request; the lamp shows what is."),
+          buildIndicatorPage },
+        { QStringLiteral("labels"), QStringLiteral("Displays and labels"),
+          QStringLiteral("Texts as an instrument writes them, labels with an icon or on their "
+                         "side, and lines that connect the cells of a grid."),
+          buildLabelPage },
+        { QStringLiteral("overlays"), QStringLiteral("Overlays"),
+          QStringLiteral("What lies over the page of a module that is away, or that has something "
+                         "to say."),
+          buildOverlayPage },
+        { QStringLiteral("flow"), QStringLiteral("Flow layout"),
+          QStringLiteral("Items go on in a new row where the next one would pass the right edge. "
+                         "Drag the handle and see them wrap."),
+          buildFlowPage },
     };
     return list;
 }

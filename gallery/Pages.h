@@ -23,6 +23,11 @@ const Page *findPage(const QString &name);
 
 // Each page is a function in a file of its own; the caller owns what it builds.
 QWidget *buildSliderPage();
+QWidget *buildButtonPage();
+QWidget *buildIndicatorPage();
+QWidget *buildLabelPage();
+QWidget *buildOverlayPage();
+QWidget *buildFlowPage();
 QWidget *buildThemePage();
 QWidget *buildControlsPage();
 QWidget *buildPicturesPage();

@@ -41,6 +41,8 @@ void dropPlatformNoise(QtMsgType, const QMessageLogContext &, const QString &tex
 void prepare(QApplication &app)
 {
     QApplication::setApplicationName(QStringLiteral("pelorin-gallery"));
+    // The face of the displays is rarely at hand; one of the same build stands in.
+    QFont::insertSubstitution(QStringLiteral("Consolas"), QStringLiteral("DejaVu Sans Mono"));
     Pelorin::loadApplicationFonts();
     app.setStyleSheet(Pelorin::getApplicationStylesheet());
 }

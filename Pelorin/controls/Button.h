@@ -54,9 +54,9 @@ public:
     /// The number that was set last, as it was given.
     Button::Color color() const { return m_color; }
 
-    /// Sets "button-checked-color". Two colours are special, for the sake of the panels that rely
-    /// on it: Red sets "button-color" instead, so that the button is red in any state, and a number
-    /// outside of the enumeration counts as Orange.
+    /// Sets "button-checked-color"; a number outside of the enumeration counts as Orange. Red is
+    /// special, and panels rely on it: it sets "button-color" instead, so that the button is red
+    /// while it is not checked, and keeps the checked colour that it had.
     void setCheckedColor(Button::Color color);
     Button::Color checkedColor() const { return m_checkedColor; }
 

@@ -13,6 +13,7 @@ constexpr int firstPixelSize = 32;
 QFont pitchedFont()
 {
     QFont font(QStringLiteral("Consolas"));
+    font.setStyleHint(QFont::Monospace); // where the family is not at hand
     font.setPixelSize(firstPixelSize);
     return font;
 }

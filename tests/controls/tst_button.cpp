@@ -1,4 +1,5 @@
 #include "Pelorin/controls/Button.h"
+#include "Pelorin/theme/Pelorin.h"
 #include "tests/support/MetaMethods.h"
 #include "tests/support/RepaintCounter.h"
 #include "tests/support/SignalRecorder.h"
@@ -63,7 +64,7 @@ private Q_SLOTS:
     void namesItsColor();
     void namesItsCheckedColor_data();
     void namesItsCheckedColor();
-    void turnsRedInAnyStateWhenCheckedRed();
+    void turnsRedItselfWhenCheckedRed();
     void reportsAClickWithItsText_data();
     void reportsAClickWithItsText();
     void reportsTheTextOfTheMoment();
@@ -75,6 +76,8 @@ private Q_SLOTS:
     void explainsItself();
     void fillsItselfWithAPicture_data();
     void fillsItselfWithAPicture();
+    void wearsTheColorsOfTheSheet_data();
+    void wearsTheColorsOfTheSheet();
 };
 
 void tst_Button::declaresItsInterface()
@@ -268,7 +271,7 @@ void tst_Button::namesItsCheckedColor()
     QCOMPARE(styleProperty(button, "button-checked-color"), checkedName);
 }
 
-void tst_Button::turnsRedInAnyStateWhenCheckedRed()
+void tst_Button::turnsRedItselfWhenCheckedRed()
 {
     Button button;
     button.setColor(Button::DarkGrey);
@@ -461,6 +464,50 @@ void tst_Button::fillsItselfWithAPicture()
     const QImage image = button.grab().toImage();
     if (!icon.isEmpty())
         QCOMPARE(image.pixel(size.width() / 2, size.height() / 2), 0xFF123456);
+}
+
+void tst_Button::wearsTheColorsOfTheSheet_data()
+{
+    QTest::addColumn<int>("color");
+    QTest::addColumn<int>("checkedColor"); ///< of a checked button; -1 for none
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QRgb>("ground");
+
+    QTest::newRow("red") << 0 << -1 << true << 0xFF87212E;
+    QTest::newRow("grey") << 1 << -1 << true << 0xFFC6C6C6;
+    QTest::newRow("dark grey") << 2 << -1 << true << 0xFF555555;
+    QTest::newRow("green") << 3 << -1 << true << 0xFFABC217;
+    QTest::newRow("orange") << 4 << -1 << true << 0xFFED6E00;
+    QTest::newRow("red, disabled") << 0 << -1 << false << 0xFF895A60;
+    QTest::newRow("green, disabled") << 3 << -1 << false << 0xFFDDDDDD;
+    QTest::newRow("orange, disabled") << 4 << -1 << false << 0xFFDDDDDD;
+    QTest::newRow("checked grey") << 0 << 1 << true << 0xFFC6C6C6;
+    QTest::newRow("checked dark grey") << 0 << 2 << true << 0xFF555555;
+    QTest::newRow("checked green") << 0 << 3 << true << 0xFFABC217;
+    QTest::newRow("checked orange") << 0 << 4 << true << 0xFFED6E00;
+    QTest::newRow("checked red keeps the orange") << 2 << 0 << true << 0xFFED6E00;
+}
+
+void tst_Button::wearsTheColorsOfTheSheet()
+{
+    QFETCH(int, color);
+    QFETCH(int, checkedColor);
+    QFETCH(bool, enabled);
+    QFETCH(QRgb, ground);
+    QWidget window;
+    window.setStyleSheet(Pelorin::getApplicationStylesheet());
+    Button button(&window);
+    button.setColor(Button::Color(color));
+    if (checkedColor >= 0) {
+        button.setCheckedColor(Button::Color(checkedColor));
+        button.setCheckable(true);
+        button.setChecked(true);
+    }
+    button.setEnabled(enabled);
+
+    window.show();
+
+    QCOMPARE(button.grab().toImage().pixel(48, 28), ground);
 }
 
 PELORIN_TEST_MAIN(tst_Button)
