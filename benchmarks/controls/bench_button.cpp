@@ -1,11 +1,10 @@
 #include "Pelorin/controls/Button.h"
-#include "Pelorin/theme/Pelorin.h"
 #include "benchmarks/support/Comparison.h"
-#include "benchmarks/support/Repaint.h"
+#include "benchmarks/support/ShowWindow.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QPushButton>
+#include <QVariant>
 
 #include <memory>
 
@@ -14,24 +13,16 @@ namespace {
 constexpr int manyButtons = 500;
 constexpr int columns = 20;
 
-/// Builds, polishes and shows a window full of buttons under the full sheet, to the first painted
-/// frame.
 template<typename Make>
 void showMany(benchmark::State &state, Make make)
 {
-    qApp->setStyleSheet(Pelorin::getApplicationStylesheet());
-    for (auto step : state) {
-        Q_UNUSED(step)
+    showUnderSheet(state, [make] {
         auto window = std::make_unique<QWidget>();
         auto *grid = new QGridLayout(window.get());
         for (int i = 0; i < manyButtons; ++i)
             grid->addWidget(make(i), i / columns, i % columns);
-        showAndSettle(*window);
-        state.PauseTiming();
-        window.reset();
-        state.ResumeTiming();
-    }
-    qApp->setStyleSheet(QString());
+        return window;
+    });
 }
 
 QWidget *makeOurs(int index)

@@ -1,9 +1,8 @@
 #include "Pelorin/sliders/ScaleSliderNG.h"
-#include "Pelorin/theme/Pelorin.h"
 #include "benchmarks/support/Comparison.h"
 #include "benchmarks/support/Repaint.h"
+#include "benchmarks/support/ShowWindow.h"
 
-#include <QApplication>
 #include <QSlider>
 #include <QVBoxLayout>
 
@@ -91,24 +90,16 @@ void dragQt(benchmark::State &state, int tickInterval)
         state.SkipWithError("the handle was not dragged");
 }
 
-/// Builds, polishes and shows a window full of sliders under the full sheet, to the first painted
-/// frame.
 template<typename Make>
 void showMany(benchmark::State &state, Make make)
 {
-    qApp->setStyleSheet(Pelorin::getApplicationStylesheet());
-    for (auto step : state) {
-        Q_UNUSED(step)
+    showUnderSheet(state, [make] {
         auto window = std::make_unique<QWidget>();
         auto *layout = new QVBoxLayout(window.get());
         for (int i = 0; i < manySliders; ++i)
             layout->addWidget(make());
-        showAndSettle(*window);
-        state.PauseTiming();
-        window.reset();
-        state.ResumeTiming();
-    }
-    qApp->setStyleSheet(QString());
+        return window;
+    });
 }
 
 QWidget *makeOurs()
