@@ -14,6 +14,12 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+/// Resources of a static library have to be asked for, and from outside of any namespace.
+static void initResources()
+{
+    Q_INIT_RESOURCE(gallery);
+}
+
 namespace {
 
 constexpr int sidebarWidth = 216;
@@ -48,10 +54,17 @@ CenterTabWidget > QTabWidget > QTabBar::tab:selected {
     font-size: 12px; }
 )");
 
+/// The window itself builds the welcome page, so the picture has to be there before it.
+QWidget *withResources(QWidget *parent)
+{
+    initResources();
+    return parent;
+}
+
 } // namespace
 
 GalleryWindow::GalleryWindow(QWidget *parent)
-    : TavrinMainWindow(parent)
+    : TavrinMainWindow(withResources(parent))
     , m_tabs(centerTabWidget()->findChild<QTabWidget *>())
 {
     qApp->setProperty(mainWindowProperty,

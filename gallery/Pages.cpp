@@ -42,6 +42,11 @@ const QVector<Page> &pages()
           QStringLiteral("Items go on in a new row where the next one would pass the right edge. "
                          "Drag the handle and see them wrap."),
           buildFlowPage },
+        { QStringLiteral("shell"), QStringLiteral("Window and columns"),
+          QStringLiteral(
+              "The main window around this page with its docks and tabs, and the control "
+              "columns that stand in them."),
+          buildShellPage },
     };
     return list;
 }
