@@ -17,8 +17,9 @@ public:
     /// without a place in the source.
     static void expectMessage(QtMsgType type, const QString &text);
 
-    /// Lets all messages pass that begin with \a prefix, however many come.
-    static void allowMessages(const QString &prefix);
+    /// Lets pass all messages of \a type that begin with \a start, in the test that runs: for what
+    /// is logged at every step of a way that is about something else.
+    static void tolerateMessages(QtMsgType type, const QString &start);
 
     /// How many announced messages have not come yet.
     static int pendingMessages();
