@@ -19,15 +19,18 @@ function(pelorin_compile_options target)
     endif()
 endfunction()
 
-# pelorin_subsystem(<folder> CLASSES <class>... [SOURCES <file>...] [PRIVATE <header>...])
+# pelorin_subsystem(<folder> CLASSES <class>... [SOURCES <file>...] [HEADERS <header>...]
+#                   [PRIVATE <header>...])
 #
 # Adds the subsystem in the current folder to the library. CLASSES are its exported classes: each has
 # <class>.h and <class>.cpp, is installed, gets a forwarding header <Pelorin/class>, and is compiled
-# alone by the header check. SOURCES are further sources, PRIVATE the headers that are not installed.
+# alone by the header check. SOURCES are further sources, HEADERS those that are installed because others
+# include them, but that nobody includes by name, PRIVATE the headers that are not installed.
 function(pelorin_subsystem folder)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "CLASSES;SOURCES;PRIVATE")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "CLASSES;SOURCES;HEADERS;PRIVATE")
 
-    target_sources(Pelorin PRIVATE ${arg_SOURCES} ${arg_PRIVATE})
+    target_sources(Pelorin PRIVATE ${arg_SOURCES} ${arg_HEADERS} ${arg_PRIVATE})
+    install(FILES ${arg_HEADERS} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/Pelorin/${folder}")
     foreach(class IN LISTS arg_CLASSES)
         target_sources(Pelorin PRIVATE ${class}.h ${class}.cpp)
 

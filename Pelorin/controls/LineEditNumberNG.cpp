@@ -1,0 +1,5 @@
+#include "Pelorin/controls/LineEditNumberNG.h"
+
+LineEditNumberNG::LineEditNumberNG(QWidget *parent)
+    : LineEditNumberBase(parent)
+{}

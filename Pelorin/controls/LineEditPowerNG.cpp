@@ -1,0 +1,5 @@
+#include "Pelorin/controls/LineEditPowerNG.h"
+
+LineEditPowerNG::LineEditPowerNG(QWidget *parent)
+    : LineEditNumberBase(parent)
+{}
