@@ -22,6 +22,11 @@ const QVector<Page> &pages()
               "Drag a handle, or give it the keyboard with Tab and use the arrows; Shift "
               "makes ten steps of one. The number beside a slider follows its signals."),
           buildSliderPage },
+        { QStringLiteral("assemblies"), QStringLiteral("Slider assemblies"),
+          QStringLiteral(
+              "A slider and a number field that are kept in step. Drag the handle, or type a "
+              "number and press Return; what is typed counts only then."),
+          buildAssemblyPage },
         { QStringLiteral("buttons"), QStringLiteral("Buttons"),
           QStringLiteral("The push button in every size, colour and state. Those that are not "
                          "specimens of a state can be pressed."),

@@ -24,6 +24,7 @@ const Page *findPage(const QString &name);
 // Each page is a function in a file of its own; the caller owns what it builds.
 QWidget *buildShellPage();
 QWidget *buildSliderPage();
+QWidget *buildAssemblyPage();
 QWidget *buildButtonPage();
 QWidget *buildIndicatorPage();
 QWidget *buildLabelPage();

@@ -39,11 +39,11 @@ class ScaleAxis;
 /// |---|---|
 /// | Press on a handle | handleGrapped() |
 /// | Mouse move in a drag | valueChanging0(), valueChanging1(), each only if that value changed |
-/// | Release | valueChanged0(), valueChanged1(), each only if it differs from the value at the
-/// press | | Arrow key, continuous | valueChanging\e i if the value changed, then valueChanged\e i
-/// always | | Arrow key, steps | valueChanging\e i, then valueChanged\e i, always | | setRange(),
-/// setDoubleRange(), setSteps(), setDoubleSlider() | valueChanging0(), valueChanging1(), then
-/// valueChanged0(), valueChanged1(), each only if changed |
+/// | Release | valueChanged0(), valueChanged1(), each only if not as at the press |
+/// | Arrow key, continuous | valueChanging\e i if the value changed, then valueChanged\e i always |
+/// | Arrow key, steps | valueChanging\e i, then valueChanged\e i, always |
+/// | setRange(), setDoubleRange() | valueChanging0(), valueChanging1(), then valueChanged0(), |
+/// | setSteps(), setDoubleSlider() | valueChanged1(), each only if changed |
 ///
 /// The second value exists, is validated and reported on changes of the range also when the slider
 /// has one handle; it is then neither drawn nor reached by mouse or keyboard.

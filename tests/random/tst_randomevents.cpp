@@ -19,7 +19,10 @@
 #include "Pelorin/shell/QWidgetNG.h"
 #include "Pelorin/shell/SplashImage.h"
 #include "Pelorin/shell/TavrinMainWindow.h"
+#include "Pelorin/sliders/HorizontalSlider.h"
 #include "Pelorin/sliders/ScaleSliderNG.h"
+#include "Pelorin/sliders/VerticalScaleSlider.h"
+#include "Pelorin/sliders/VerticalSlider.h"
 #include "tests/support/RandomEvents.h"
 #include "tests/support/TestCase.h"
 
@@ -61,6 +64,12 @@ const QVector<Subject> &subjects()
         { "OverlayImage", [] { return new OverlayImage; } },
         { "QWidgetNG", [] { return new QWidgetNG; } },
         { "SplashImage", [] { return new SplashImage; } },
+        { "HorizontalSlider",
+          [] { return new HorizontalSlider(10, ScaleSliderNG::ScaleSqrt, nullptr); } },
+        { "VerticalSlider",
+          [] { return new VerticalSlider(ScaleSliderNG::ScaleLinear, true, nullptr); } },
+        { "VerticalScaleSlider",
+          [] { return new VerticalScaleSlider(ScaleSliderNG::ScaleSqrtSteps, false, nullptr); } },
         { "ScaleSliderNG, horizontal",
           [] { return new ScaleSliderNG(Qt::Horizontal, ScaleSliderNG::ScaleLinear, nullptr); } },
         { "ScaleSliderNG, vertical steps",
@@ -97,6 +106,7 @@ void tst_RandomEvents::livesThroughNonsense()
     QFETCH(quint32, seed);
     // A crash leaves no report of the test behind, so the seed is told before.
     std::fprintf(stderr, "%s, seed %u\n", subjects().at(subject).name, seed);
+    tolerateMessages(QtDebugMsg, QStringLiteral("VerticalScaleSlider::priValueChanging "));
     for (const char *name : { "LineEditNumberNG", "LineEditPowerNG" }) {
         tolerateMessages(QtDebugMsg, QLatin1String(name) + QStringLiteral("::textEdited-in"));
         tolerateMessages(QtWarningMsg, QLatin1String(name) + QStringLiteral("::setRange - min:"));
