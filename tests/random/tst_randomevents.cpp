@@ -4,6 +4,8 @@
 #include "Pelorin/controls/IconLabel.h"
 #include "Pelorin/controls/Indicator.h"
 #include "Pelorin/controls/IndicatorButton.h"
+#include "Pelorin/controls/LineEdit.h"
+#include "Pelorin/controls/LineEditNumber.h"
 #include "Pelorin/controls/LineEditNumberNG.h"
 #include "Pelorin/controls/LineEditPowerNG.h"
 #include "Pelorin/controls/ShowHideButton.h"
@@ -64,6 +66,8 @@ const QVector<Subject> &subjects()
         { "OverlayImage", [] { return new OverlayImage; } },
         { "QWidgetNG", [] { return new QWidgetNG; } },
         { "SplashImage", [] { return new SplashImage; } },
+        { "LineEdit", [] { return new LineEdit; } },
+        { "LineEditNumber", [] { return new LineEditNumber; } },
         { "HorizontalSlider",
           [] { return new HorizontalSlider(10, ScaleSliderNG::ScaleSqrt, nullptr); } },
         { "VerticalSlider",
@@ -106,6 +110,7 @@ void tst_RandomEvents::livesThroughNonsense()
     QFETCH(quint32, seed);
     // A crash leaves no report of the test behind, so the seed is told before.
     std::fprintf(stderr, "%s, seed %u\n", subjects().at(subject).name, seed);
+    tolerateMessages(QtDebugMsg, QStringLiteral("Reset: "));
     tolerateMessages(QtDebugMsg, QStringLiteral("VerticalScaleSlider::priValueChanging "));
     for (const char *name : { "LineEditNumberNG", "LineEditPowerNG" }) {
         tolerateMessages(QtDebugMsg, QLatin1String(name) + QStringLiteral("::textEdited-in"));
