@@ -1,5 +1,7 @@
 #include "Pelorin/controls/Button.h"
+#include "Pelorin/controls/ComboBoxNG.h"
 #include "Pelorin/controls/Display.h"
+#include "Pelorin/controls/DropDownNG.h"
 #include "Pelorin/controls/GridLineNG.h"
 #include "Pelorin/controls/IconLabel.h"
 #include "Pelorin/controls/Indicator.h"
@@ -40,12 +42,22 @@ struct Subject
     std::function<QWidget *()> make;
 };
 
+template<class List>
+QWidget *filledList()
+{
+    auto *list = new List;
+    list->addItems({ QStringLiteral("12.5"), QStringLiteral("Burst"), QString() });
+    return list;
+}
+
 /// Every widget of the library joins with a line.
 const QVector<Subject> &subjects()
 {
     static const QVector<Subject> list{
         { "Button", [] { return new Button(QStringLiteral("Start")); } },
+        { "ComboBoxNG", filledList<ComboBoxNG> },
         { "Display", [] { return new Display(2, 10); } },
+        { "DropDownNG", filledList<DropDownNG> },
         { "GridLineNG", [] { return new GridLineNG(GridLineNG::Cross); } },
         { "IconLabel", [] { return new IconLabel(QStringLiteral("Laser")); } },
         { "Indicator", [] { return new Indicator; } },
@@ -111,6 +123,8 @@ void tst_RandomEvents::livesThroughNonsense()
     // A crash leaves no report of the test behind, so the seed is told before.
     std::fprintf(stderr, "%s, seed %u\n", subjects().at(subject).name, seed);
     tolerateMessages(QtDebugMsg, QStringLiteral("Reset: "));
+    // of properties that are Qt's own
+    tolerateMessages(QtWarningMsg, QStringLiteral("QComboBox::setMax"));
     tolerateMessages(QtDebugMsg, QStringLiteral("VerticalScaleSlider::priValueChanging "));
     for (const char *name : { "LineEditNumberNG", "LineEditPowerNG" }) {
         tolerateMessages(QtDebugMsg, QLatin1String(name) + QStringLiteral("::textEdited-in"));
