@@ -39,6 +39,10 @@ const QVector<Page> &pages()
           QStringLiteral("Texts as an instrument writes them, labels with an icon or on their "
                          "side, and lines that connect the cells of a grid."),
           buildLabelPage },
+        { QStringLiteral("lists"), QStringLiteral("Drop-down lists"),
+          QStringLiteral("Lists whose items can be hidden, disabled and explained one by one. Open "
+                         "them, or step with the arrows; the wheel needs the focus first."),
+          buildListPage },
         { QStringLiteral("overlays"), QStringLiteral("Overlays"),
           QStringLiteral("What lies over the page of a module that is away, or that has something "
                          "to say."),

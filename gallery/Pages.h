@@ -28,6 +28,7 @@ QWidget *buildAssemblyPage();
 QWidget *buildButtonPage();
 QWidget *buildIndicatorPage();
 QWidget *buildLabelPage();
+QWidget *buildListPage();
 QWidget *buildOverlayPage();
 QWidget *buildFlowPage();
 QWidget *buildThemePage();
