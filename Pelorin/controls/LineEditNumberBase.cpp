@@ -8,7 +8,6 @@
 #include <QAction>
 #include <QDebug>
 #include <QKeyEvent>
-#include <QSignalBlocker>
 #include <QTimer>
 #include <QtMath>
 
@@ -126,10 +125,7 @@ void LineEditNumberBase::setRange(double min, double max, bool ignoreValueChange
         if (!ignoreValueChanges)
             reportValueChanged(publicValue(m_curValue));
     }
-    if (m_popupSlider) {
-        const QSignalBlocker blocker(m_popupSlider);
-        m_popupSlider->setValue0(m_curValue);
-    }
+    setPopupSliderValue();
 }
 
 void LineEditNumberBase::setIntegerDigits(int digits, bool allowShrink)

@@ -109,6 +109,7 @@ private:
     // The popup slider
     bool isPopupShown() const;
     void adjustPopupSliderRange();
+    void setPopupSliderValue();
     void adjustPopupSliderPosition();
     void hidePopupSlider();
 

@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 #include <QVariant>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -16,6 +17,19 @@ namespace {
 constexpr int popupWidth = 400;
 constexpr int popupMargins = 5;
 constexpr int popupGap = 2; ///< between field and popup
+
+/// Decoded once for all fields, and given back before the application object goes.
+QIcon popupButtonIcon()
+{
+    static QIcon icon;
+    if (icon.isNull()) {
+        const QString path = QStringLiteral(":/Pelorin/images/images/SliderPopupButton%1.png");
+        icon.addFile(path.arg(QStringLiteral("16")), QSize(), QIcon::Normal, QIcon::Off);
+        icon.addFile(path.arg(QStringLiteral("Hover16")), QSize(), QIcon::Active, QIcon::Off);
+        qAddPostRoutine([] { icon = QIcon(); });
+    }
+    return icon;
+}
 
 /// The window that the application has stored; null for anything else, also for a window that is
 /// gone.
@@ -64,12 +78,7 @@ void LineEditNumberBase::followMainWindow()
 /// The action comes into the field when the popup slider is enabled.
 void LineEditNumberBase::createPopupSliderButton()
 {
-    QIcon icon;
-    icon.addFile(QStringLiteral(":/Pelorin/images/images/SliderPopupButton16.png"), QSize(),
-                 QIcon::Normal, QIcon::Off);
-    icon.addFile(QStringLiteral(":/Pelorin/images/images/SliderPopupButtonHover16.png"), QSize(),
-                 QIcon::Active, QIcon::Off);
-    m_popupSliderAction = new QAction(icon, QString(), this);
+    m_popupSliderAction = new QAction(popupButtonIcon(), QString(), this);
     connect(m_popupSliderAction, &QAction::triggered, this,
             &LineEditNumberBase::priPopupSliderVisibilityChange);
 }
@@ -84,6 +93,9 @@ void LineEditNumberBase::popUpSliderEnable(bool enable, bool logarithmic)
     if (m_popupSlider) {
         m_popupSlider->setScaleType(logarithmic ? ScaleSliderNG::ScaleSqrt
                                                 : ScaleSliderNG::ScaleLinear);
+        // A new scale leaves the handle where it was, and the next drag would begin with a leap.
+        adjustPopupSliderRange();
+        setPopupSliderValue();
     }
     addAction(m_popupSliderAction, QLineEdit::TrailingPosition);
 }
@@ -154,6 +166,14 @@ void LineEditNumberBase::adjustPopupSliderRange()
     const double step = m_precision < 1 ? 1.0 : 1.0 / std::pow(10.0, m_precision);
     const QSignalBlocker blocker(m_popupSlider);
     m_popupSlider->setRange(m_minimum, m_infinityEnabled ? m_maximum + step : m_maximum, false);
+}
+
+void LineEditNumberBase::setPopupSliderValue()
+{
+    if (!m_popupSlider)
+        return;
+    const QSignalBlocker blocker(m_popupSlider);
+    m_popupSlider->setValue0(m_curValue);
 }
 
 /// Centred under the field. A hidden popup is placed when it is shown.

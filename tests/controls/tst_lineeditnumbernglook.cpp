@@ -20,6 +20,7 @@ class tst_LineEditNumberNGLook : public TestCase
 private Q_SLOTS:
     void makesRoomForItsNumbers_data();
     void makesRoomForItsNumbers();
+    void makesRoomForItsDecimals();
     void fixesTheWidthIfItMayShrink();
     void keepsItsWidthWhenTheRangeChanges();
     void boundsAnAbsurdWidth_data();
@@ -76,9 +77,16 @@ void tst_LineEditNumberNGLook::makesRoomForItsNumbers()
     QCOMPARE(edit.minimumWidth(), QFontMetrics(edit.font()).horizontalAdvance(model));
     QCOMPARE(edit.maximumWidth(), QWIDGETSIZE_MAX);
     QCOMPARE(edit.integerDigits(), digits);
-    edit.setIntegerDigits(9);
-    edit.setValuePrecision(decimals); // the width follows the decimals as well
-    QVERIFY(edit.minimumWidth() > QFontMetrics(edit.font()).horizontalAdvance(model));
+}
+
+void tst_LineEditNumberNGLook::makesRoomForItsDecimals()
+{
+    LineEditNumberNG edit(nullptr);
+
+    edit.setValuePrecision(4);
+
+    QCOMPARE(edit.minimumWidth(),
+             QFontMetrics(edit.font()).horizontalAdvance(QStringLiteral("00000.00000")));
 }
 
 void tst_LineEditNumberNGLook::fixesTheWidthIfItMayShrink()

@@ -3,6 +3,8 @@
 #include "tests/support/TestCase.h"
 
 #include <QAction>
+#include <QMoveEvent>
+#include <QResizeEvent>
 
 namespace {
 
@@ -16,9 +18,11 @@ class tst_LineEditNumberNGPopup : public TestCase
 
 private Q_SLOTS:
     void buildsASliderInAWindowOfItsOwn();
+    void buildsASmallFramedSliderWithoutLabels();
     void addsAndRemovesTheButton();
     void choosesTheScale_data();
     void choosesTheScale();
+    void keepsTheHandleAtTheValueOnANewScale();
     void givesTheSliderItsRange_data();
     void givesTheSliderItsRange();
     void givesTheSliderItsValueInSilence();
@@ -59,6 +63,22 @@ void tst_LineEditNumberNGPopup::buildsASliderInAWindowOfItsOwn()
 
     edit.setValuePrecision(3);
     QCOMPARE(slider->valuePrecision(), 3);
+}
+
+void tst_LineEditNumberNGPopup::buildsASmallFramedSliderWithoutLabels()
+{
+    LineEditNumberNG edit(nullptr);
+    ScaleSliderNG alike(Qt::Horizontal, ScaleSliderNG::ScaleSqrt, nullptr);
+    alike.setSliderSize(true, false, true);
+    alike.setSideMargins(5);
+    alike.setFixedWidth(popupWidth);
+    alike.setAttribute(Qt::WA_TranslucentBackground);
+    alike.setRange(100.0, 2000.0);
+    alike.setValue0(500.0);
+
+    edit.setValue(500.0);
+
+    QCOMPARE(edit.findChild<ScaleSliderNG *>()->grab().toImage(), alike.grab().toImage());
 }
 
 void tst_LineEditNumberNGPopup::addsAndRemovesTheButton()
@@ -103,6 +123,22 @@ void tst_LineEditNumberNGPopup::choosesTheScale()
 
     field.edit.popUpSliderEnable(false, !logarithmic);
     QCOMPARE(int(field.slider()->scaleType()), type);
+}
+
+void tst_LineEditNumberNGPopup::keepsTheHandleAtTheValueOnANewScale()
+{
+    PopupField field(25.0);
+    SignalRecorder slider(field.slider());
+    field.edit.popUpSliderEnable(true, true);
+
+    field.slider()->setHandlePosition0(50001); // half of a square root is a quarter
+    QCOMPARE(slider.taken(), QStringList());
+    field.edit.popUpSliderEnable(true, false);
+    field.slider()->setHandlePosition0(25001);
+
+    QCOMPARE(slider.taken(), QStringList());
+    QCOMPARE(field.slider()->value0(), 25.0);
+    QCOMPARE(field.recorder.taken(), QStringList());
 }
 
 void tst_LineEditNumberNGPopup::givesTheSliderItsRange_data()
@@ -254,6 +290,14 @@ void tst_LineEditNumberNGPopup::followsTheField()
     QTRY_COMPARE(field.slider()->pos(), QPoint(300, 282));
     field.edit.setGeometry(400, 250, 300, 40);
     QTRY_COMPARE(field.slider()->pos(), QPoint(350, 292));
+    QResizeEvent resized(QSize(300, 40), QSize(300, 40)); // each of the two events is enough
+    field.slider()->move(0, 0);
+    QApplication::sendEvent(&field.edit, &resized);
+    QCOMPARE(field.slider()->pos(), QPoint(350, 292));
+    QMoveEvent moved(QPoint(400, 250), QPoint(400, 250));
+    field.slider()->move(0, 0);
+    QApplication::sendEvent(&field.edit, &moved);
+    QCOMPARE(field.slider()->pos(), QPoint(350, 292));
 
     field.clickButton();
     field.edit.setGeometry(100, 100, 300, 40);
