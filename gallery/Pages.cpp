@@ -27,6 +27,10 @@ const QVector<Page> &pages()
               "A slider and a number field that are kept in step. Drag the handle, or type a "
               "number and press Return; what is typed counts only then."),
           buildAssemblyPage },
+        { QStringLiteral("numbers"), QStringLiteral("Numeric entry"),
+          QStringLiteral("Type, or step the digit left of the cursor with the arrows. The number "
+                         "beside a caption is the committed value; the field shows the edit."),
+          buildNumberEntryPage },
         { QStringLiteral("buttons"), QStringLiteral("Buttons"),
           QStringLiteral("The push button in every size, colour and state. Those that are not "
                          "specimens of a state can be pressed."),

@@ -25,6 +25,7 @@ const Page *findPage(const QString &name);
 QWidget *buildShellPage();
 QWidget *buildSliderPage();
 QWidget *buildAssemblyPage();
+QWidget *buildNumberEntryPage();
 QWidget *buildButtonPage();
 QWidget *buildIndicatorPage();
 QWidget *buildLabelPage();
