@@ -16,6 +16,7 @@ constexpr QRgb openGrey = 0xFFD3D3D3; ///< the sheet's "lightgray"
 constexpr QRgb lineGrey = 0xFFA9A9A9; ///< the sheet's "darkgray"
 constexpr QRgb listGrey = 0xFFDDDDDD;
 
+/// Fixed, for a box takes the size of its texts a moment after they were set.
 const QSize probeSize(200, 40);
 
 template<class List>
@@ -178,6 +179,7 @@ void tst_ListSheet::writesAComboBox()
 void tst_ListSheet::fillsAComboBox()
 {
     ComboBoxNG box; // without a text that could be hit
+    box.setFixedSize(probeSize);
     SheetProbe probe(box, probeSize);
 
     QCOMPARE(probe.middle(), boxGrey);
@@ -217,6 +219,7 @@ void tst_ListSheet::drawsTheArrowOfAComboBox()
     QFETCH(QString, hoverPicture);
     ComboBoxNG box;
     box.setProperty("type", type);
+    box.setFixedSize(probeSize);
     SheetProbe probe(box, probeSize);
     const int line = probeSize.width() - dropDown;
     const QPoint middle(line + 1 + (dropDown - 1) / 2, probeSize.height() / 2);
@@ -239,6 +242,7 @@ void tst_ListSheet::drawsAnEditableComboBox()
 {
     ComboBoxNG box;
     box.setEditable(true);
+    box.setFixedSize(probeSize);
     SheetProbe probe(box, probeSize);
 
     QCOMPARE(probe.pixel(QPoint(100, 20)), white);
@@ -267,6 +271,7 @@ void tst_ListSheet::drawsTheOpenListOfAComboBox()
     fill(box);
     box.setItemEnabled(1, false);
     box.setCurrentIndex(2);
+    box.setFixedSize(probeSize);
     SheetProbe probe(box, probeSize);
     QAbstractItemView &view = *box.view();
     box.showPopup();
@@ -292,6 +297,7 @@ void tst_ListSheet::leavesNoRoomForHiddenItems()
     ComboBoxNG box;
     fill(box);
     box.setItemVisible(1, false);
+    box.setFixedSize(probeSize);
     SheetProbe probe(box, probeSize);
     box.showPopup();
 
