@@ -129,14 +129,18 @@ void tst_LineEditNumberNGPopup::keepsTheHandleAtTheValueOnANewScale()
 {
     PopupField field(25.0);
     SignalRecorder slider(field.slider());
-    field.edit.popUpSliderEnable(true, true);
+    MouseHand hand(*field.slider());
+    const auto handleAt = [](double part) { return QPoint(5 + 9 + qRound(372 * part), 9); };
 
-    field.slider()->setHandlePosition0(50001); // half of a square root is a quarter
-    QCOMPARE(slider.taken(), QStringList());
-    field.edit.popUpSliderEnable(true, false);
-    field.slider()->setHandlePosition0(25001);
+    // A quarter of the range is half of the travel on a scale of square roots.
+    for (const bool logarithmic : { true, false }) {
+        field.edit.popUpSliderEnable(true, logarithmic);
+        QCOMPARE(slider.taken(), QStringList());
+        hand.press(handleAt(logarithmic ? 0.5 : 0.25));
+        hand.release(handleAt(logarithmic ? 0.5 : 0.25));
+        QCOMPARE(slider.taken(), list("handleGrapped()"));
+    }
 
-    QCOMPARE(slider.taken(), QStringList());
     QCOMPARE(field.slider()->value0(), 25.0);
     QCOMPARE(field.recorder.taken(), QStringList());
 }
