@@ -1,16 +1,10 @@
 #include "Pelorin/controls/LineEdit.h"
+#include "tests/support/MetaMethods.h"
 #include "tests/support/SignalRecorder.h"
 #include "tests/support/TestCase.h"
+#include "tests/support/TextList.h"
 
 namespace {
-
-QStringList list(std::initializer_list<const char *> entries)
-{
-    QStringList result;
-    for (const char *entry : entries)
-        result << QString::fromLatin1(entry);
-    return result;
-}
 
 /// Only what LineEdit itself declares.
 class Recorder : public SignalRecorder
@@ -69,10 +63,7 @@ void tst_LineEdit::startsFlatAndEmpty()
 
 void tst_LineEdit::declaresSignalsAndSlotsInOrder()
 {
-    const QMetaObject &meta = LineEdit::staticMetaObject;
-    QStringList own;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        own << QString::fromLatin1(meta.method(i).methodSignature());
+    const QStringList own = ownMethods(LineEdit::staticMetaObject);
 
     QCOMPARE(own, list({ "textSaved(QString)", "gotFocus()", "textReset()", "textEditing()",
                          "setText(QString)", "saveText()", "resetText()", "checkForNewText()" }));

@@ -1,18 +1,12 @@
 #include "Pelorin/controls/LineEditNumber.h"
+#include "tests/support/MetaMethods.h"
 #include "tests/support/SignalRecorder.h"
 #include "tests/support/TestCase.h"
+#include "tests/support/TextList.h"
 
 #include <limits>
 
 namespace {
-
-QStringList list(std::initializer_list<const char *> entries)
-{
-    QStringList result;
-    for (const char *entry : entries)
-        result << QString::fromLatin1(entry);
-    return result;
-}
 
 class Field : public LineEditNumber
 {
@@ -100,16 +94,13 @@ void tst_LineEditNumber::roundsToSignificantDigits()
 
 void tst_LineEditNumber::declaresSignalsAndSlotsInOrder()
 {
-    const QMetaObject &meta = LineEditNumber::staticMetaObject;
-    QStringList own;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        own << QString::fromLatin1(meta.method(i).methodSignature());
+    const QStringList own = ownMethods(LineEditNumber::staticMetaObject);
 
     QCOMPARE(own, list({ "numberChanged(double)", "numberSaved(double)", "arrowPressed(int)",
                          "setNumber(double,int,bool)", "setNumber(double,int)", "setText(QString)",
                          "emitNumberChanged(QString)", "emitNumberSaved()", "nudge(int)",
                          "updateFeedbackValue()" }));
-    QCOMPARE(meta.superClass(), &LineEdit::staticMetaObject);
+    QCOMPARE(LineEditNumber::staticMetaObject.superClass(), &LineEdit::staticMetaObject);
 }
 
 void tst_LineEditNumber::startsAlignedToTheRight()

@@ -1,6 +1,7 @@
 #include "Pelorin/shell/CenterTabWidget.h"
 #include "Pelorin/shell/DockWidget.h"
 #include "Pelorin/shell/TavrinMainWindow.h"
+#include "tests/support/MetaMethods.h"
 #include "tests/support/SignalRecorder.h"
 #include "tests/support/TestCase.h"
 
@@ -86,10 +87,7 @@ void tst_TavrinMainWindow::startsWithTheWelcomeTab()
 
 void tst_TavrinMainWindow::declaresSignalsAndSlotsInOrder()
 {
-    const QMetaObject &meta = TavrinMainWindow::staticMetaObject;
-    QStringList own;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        own << QString::fromLatin1(meta.method(i).methodSignature());
+    const QStringList own = ownMethods(TavrinMainWindow::staticMetaObject);
 
     const QStringList expected{
         QStringLiteral("sigMainWindowMoved(QPoint,QPoint)"),

@@ -1,6 +1,7 @@
 #ifndef PELORIN_TESTS_ASSEMBLYWIRING_H
 #define PELORIN_TESTS_ASSEMBLYWIRING_H
 
+#include "tests/support/MetaMethods.h"
 #include "tests/support/MouseHand.h"
 #include "tests/support/SignalRecorder.h"
 #include "tests/support/TestCase.h"
@@ -116,10 +117,7 @@ public:
     /// \a more are the slots that only this class has.
     void declaresInOrder(const QStringList &more)
     {
-        const QMetaObject &meta = Assembly::staticMetaObject;
-        QStringList own;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-            own << QString::fromLatin1(meta.method(i).methodSignature());
+        const QStringList own = ownMethods(Assembly::staticMetaObject);
         const QString common = QStringLiteral(
             "valueChanging(double) valueChanged(double) setValue(double) "
             "changeValue(double) setRange(double,double,bool) setRange(double,double)");

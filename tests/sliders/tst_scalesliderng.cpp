@@ -1,7 +1,9 @@
 #include "Pelorin/sliders/ScaleSliderNG.h"
+#include "tests/support/MetaMethods.h"
 #include "tests/support/MouseHand.h"
 #include "tests/support/SignalRecorder.h"
 #include "tests/support/TestCase.h"
+#include "tests/support/TextList.h"
 
 #include <QVBoxLayout>
 
@@ -46,14 +48,6 @@ public:
         QTest::sendKeyEvent(QTest::Click, this, Qt::Key(key), QString(), modifiers);
     }
 };
-
-QStringList list(std::initializer_list<const char *> entries)
-{
-    QStringList result;
-    for (const char *entry : entries)
-        result << QString::fromLatin1(entry);
-    return result;
-}
 
 } // namespace
 
@@ -140,10 +134,7 @@ void tst_ScaleSliderNG::startsWithTheDefaults()
 
 void tst_ScaleSliderNG::declaresSignalsAndSlotsInOrder()
 {
-    const QMetaObject &meta = ScaleSliderNG::staticMetaObject;
-    QStringList own;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        own << QString::fromLatin1(meta.method(i).methodSignature());
+    const QStringList own = ownMethods(ScaleSliderNG::staticMetaObject);
 
     QCOMPARE(own, list({ "valueChanging0(double)",
                          "valueChanging1(double)",

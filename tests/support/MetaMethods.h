@@ -17,4 +17,14 @@ inline QStringList ownMethods(const QMetaObject &meta, QMetaMethod::MethodType t
     return result;
 }
 
+/// All that \a meta declares itself, in order: signals and slots, with the shorter forms that default
+/// arguments make.
+inline QStringList ownMethods(const QMetaObject &meta)
+{
+    QStringList result;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        result << QString::fromLatin1(meta.method(i).methodSignature());
+    return result;
+}
+
 #endif
