@@ -40,15 +40,18 @@ struct HandleTravel
     }
 
     /// The left edge of the handle at \a value, in whole pixels. Where the scale or the widget has
-    /// no room, the left end.
+    /// no room, the left end; what is infinitely far stands at its end.
     double leftOf(double value) const
     {
         constexpr double farAway = 1.0e6; // outside of every screen, inside of every integer
-        const double left =
-            (value - scaleStart) / std::abs(scaleEnd - scaleStart) * length() + sideMargins;
-        if (!isOpen() || qIsNaN(left))
+        if (!isOpen() || qIsNaN(value) || value == -qInf())
             return sideMargins;
-        return qBound(-farAway, std::trunc(left), farAway);
+        if (value == qInf())
+            return sideMargins + length();
+        const double part = (value - scaleStart) / std::abs(scaleEnd - scaleStart);
+        if (qIsNaN(part))
+            return sideMargins;
+        return qBound(-farAway, std::trunc(part * length() + sideMargins), farAway);
     }
 
     /// Whether \a position lies inside \a handle and not on its edge.

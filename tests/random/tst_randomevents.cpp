@@ -24,6 +24,7 @@
 #include "Pelorin/shell/SplashImage.h"
 #include "Pelorin/shell/TavrinMainWindow.h"
 #include "Pelorin/sliders/HorizontalSlider.h"
+#include "Pelorin/sliders/ScaleSlider.h"
 #include "Pelorin/sliders/ScaleSliderNG.h"
 #include "Pelorin/sliders/VerticalScaleSlider.h"
 #include "Pelorin/sliders/VerticalSlider.h"
@@ -86,6 +87,7 @@ const QVector<Subject> &subjects()
           [] { return new VerticalSlider(ScaleSliderNG::ScaleLinear, true, nullptr); } },
         { "VerticalScaleSlider",
           [] { return new VerticalScaleSlider(ScaleSliderNG::ScaleSqrtSteps, false, nullptr); } },
+        { "ScaleSlider", [] { return new ScaleSlider; } },
         { "ScaleSliderNG, horizontal",
           [] { return new ScaleSliderNG(Qt::Horizontal, ScaleSliderNG::ScaleLinear, nullptr); } },
         { "ScaleSliderNG, vertical steps",

@@ -103,6 +103,8 @@ void tst_HandleTravel::placesTheHandle_data()
     QTest::newRow("a widget as wide as the handle") << 35 << 0 << 0.0 << 100.0 << 50.0 << 0.0;
     QTest::newRow("a widget too narrow") << 10 << 3 << 0.0 << 100.0 << 50.0 << 3.0;
     QTest::newRow("not a number") << 335 << 4 << 0.0 << 100.0 << qQNaN() << 4.0;
+    QTest::newRow("minus infinity") << 335 << 4 << 0.0 << 100.0 << -qInf() << 4.0;
+    QTest::newRow("infinity") << 335 << 4 << 0.0 << 100.0 << qInf() << 296.0;
     QTest::newRow("far away") << 335 << 0 << 0.0 << 1.0e-300 << 1.0e300 << 1.0e6;
 }
 
