@@ -1,6 +1,8 @@
 #include "Pelorin/controls/Button.h"
+#include "Pelorin/controls/ComboBox.h"
 #include "Pelorin/controls/ComboBoxNG.h"
 #include "Pelorin/controls/Display.h"
+#include "Pelorin/controls/DropDown.h"
 #include "Pelorin/controls/DropDownNG.h"
 #include "Pelorin/controls/GridLineNG.h"
 #include "Pelorin/controls/IconLabel.h"
@@ -10,6 +12,7 @@
 #include "Pelorin/controls/LineEditNumber.h"
 #include "Pelorin/controls/LineEditNumberNG.h"
 #include "Pelorin/controls/LineEditPowerNG.h"
+#include "Pelorin/controls/Selector.h"
 #include "Pelorin/controls/ShowHideButton.h"
 #include "Pelorin/controls/VerticalLabel.h"
 #include "Pelorin/shell/CenterTabWidget.h"
@@ -51,13 +54,23 @@ QWidget *filledList()
     return list;
 }
 
+template<class List>
+QWidget *withItems(List *list)
+{
+    for (const char *text : { "12.5", "Burst", "" })
+        list->addItem(QLatin1String(text));
+    return list;
+}
+
 /// Every widget of the library joins with a line.
 const QVector<Subject> &subjects()
 {
     static const QVector<Subject> list{
         { "Button", [] { return new Button(QStringLiteral("Start")); } },
+        { "ComboBox", filledList<ComboBox> },
         { "ComboBoxNG", filledList<ComboBoxNG> },
         { "Display", [] { return new Display(2, 10); } },
+        { "DropDown", [] { return withItems(new DropDown); } },
         { "DropDownNG", filledList<DropDownNG> },
         { "GridLineNG", [] { return new GridLineNG(GridLineNG::Cross); } },
         { "IconLabel", [] { return new IconLabel(QStringLiteral("Laser")); } },
@@ -65,6 +78,7 @@ const QVector<Subject> &subjects()
         { "IndicatorButton", [] { return new IndicatorButton(IndicatorButton::Above); } },
         { "LineEditNumberNG", [] { return new LineEditNumberNG; } },
         { "LineEditPowerNG", [] { return new LineEditPowerNG; } },
+        { "Selector", [] { return withItems(new Selector(QStringLiteral("Settings"))); } },
         { "ShowHideButton", [] { return new ShowHideButton; } },
         { "VerticalLabel", [] { return new VerticalLabel(QStringLiteral("Power")); } },
         { "CenterTabWidget", [] { return new CenterTabWidget; } },
