@@ -27,6 +27,14 @@ const QVector<Page> &pages()
               "A slider and a number field that are kept in step. Drag the handle, or type a "
               "number and press Return; what is typed counts only then."),
           buildAssemblyPage },
+        { QStringLiteral("scaleslider"), QStringLiteral("Scale slider, first generation"),
+          QStringLiteral("One handle over a linear or logarithmic range or over steps, with labels "
+                         "at round numbers. The mouse moves it; keys and wheel do not."),
+          buildScaleSliderPage },
+        { QStringLiteral("comboslider"), QStringLiteral("Combined slider"),
+          QStringLiteral("One value on a slider and in a field. The selectors at the left and at "
+                         "the right choose what is set, and in which unit."),
+          buildComboSliderPage },
         { QStringLiteral("numbers"), QStringLiteral("Numeric entry"),
           QStringLiteral("Type, or step the digit left of the cursor with the arrows. The number "
                          "beside a caption is the committed value; the field shows the edit."),

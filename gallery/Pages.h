@@ -24,7 +24,9 @@ const Page *findPage(const QString &name);
 // Each page is a function in a file of its own; the caller owns what it builds.
 QWidget *buildShellPage();
 QWidget *buildSliderPage();
+QWidget *buildScaleSliderPage();
 QWidget *buildAssemblyPage();
+QWidget *buildComboSliderPage();
 QWidget *buildNumberEntryPage();
 QWidget *buildButtonPage();
 QWidget *buildIndicatorPage();

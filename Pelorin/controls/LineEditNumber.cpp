@@ -18,6 +18,13 @@ QString decimalText(double value, int decimals)
     return QString::number(value, 'f', std::min(decimals, maxDigits));
 }
 
+/// 0 for what is no number, the text "nan" included.
+double numberIn(const QString &text)
+{
+    const double value = text.toDouble();
+    return qIsNaN(value) ? 0.0 : value;
+}
+
 /// The decimals that a number needs to show a step, judged by the leading digit of the step alone.
 int decimalsOf(double step)
 {
@@ -64,6 +71,11 @@ LineEditNumber::LineEditNumber(QWidget *parent)
     connect(&m_feedbackTimer, &QTimer::timeout, this, &LineEditNumber::updateFeedbackValue);
 }
 
+double LineEditNumber::number() const
+{
+    return numberIn(text());
+}
+
 void LineEditNumber::allowNudge(double step)
 {
     m_nudgeStep = qIsFinite(step) ? step : 0.0;
@@ -106,7 +118,7 @@ void LineEditNumber::setText(QString text)
 
 void LineEditNumber::emitNumberChanged(QString string)
 {
-    Q_EMIT numberChanged(string.toDouble());
+    Q_EMIT numberChanged(numberIn(string));
 }
 
 void LineEditNumber::emitNumberSaved()

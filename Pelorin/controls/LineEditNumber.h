@@ -21,7 +21,7 @@ public:
     explicit LineEditNumber(QWidget *parent = nullptr);
 
     /// The text as a number; 0 if it is none.
-    double number() const { return text().toDouble(); }
+    double number() const;
 
     /// The step of nudge(); 0 or less, or no finite number, for no nudging.
     void allowNudge(double step);

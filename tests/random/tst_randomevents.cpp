@@ -26,6 +26,9 @@
 #include "Pelorin/shell/QWidgetNG.h"
 #include "Pelorin/shell/SplashImage.h"
 #include "Pelorin/shell/TavrinMainWindow.h"
+#include "Pelorin/sliders/ComboSlider.h"
+#include "Pelorin/sliders/ComboSliderScale.h"
+#include "Pelorin/sliders/ComboSliderUnit.h"
 #include "Pelorin/sliders/HorizontalSlider.h"
 #include "Pelorin/sliders/ScaleSlider.h"
 #include "Pelorin/sliders/ScaleSliderNG.h"
@@ -62,6 +65,22 @@ QWidget *withItems(List *list)
     return list;
 }
 
+QWidget *filledComboSlider()
+{
+    auto *control = new ComboSlider(10);
+    for (const char *title : { "Power", "Rate" }) {
+        auto *scale = new ComboSliderScale(QLatin1String(title), control);
+        scale->addUnit(new ComboSliderUnit(QStringLiteral("mW"), 0.0, 250.0, 1));
+        auto *decades = new ComboSliderUnit(QStringLiteral("Hz"), 1.0, 1000.0, 3);
+        decades->setSignificantDigits(true);
+        decades->setScaleType(ScaleSlider::LogarithmicScale);
+        decades->setStepList({ 1.0, 2.0, 5.0, 1000.0 });
+        scale->addUnit(decades);
+        control->addScale(scale);
+    }
+    return control;
+}
+
 /// Every widget of the library joins with a line.
 const QVector<Subject> &subjects()
 {
@@ -95,6 +114,7 @@ const QVector<Subject> &subjects()
         { "SplashImage", [] { return new SplashImage; } },
         { "LineEdit", [] { return new LineEdit; } },
         { "LineEditNumber", [] { return new LineEditNumber; } },
+        { "ComboSlider", filledComboSlider },
         { "HorizontalSlider",
           [] { return new HorizontalSlider(10, ScaleSliderNG::ScaleSqrt, nullptr); } },
         { "VerticalSlider",
