@@ -5,6 +5,7 @@
 #include "Pelorin/theme/CachedLayer_p.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QWheelEvent>
@@ -364,7 +365,7 @@ void RangedScaleSlider::emitFinishedMoving(Which which)
         Q_EMIT stopHandleFinishedMoving(m_stop.value);
 }
 
-void RangedScaleSlider::paintEvent(QPaintEvent *)
+void RangedScaleSlider::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     m_picture->still.draw(painter, QPoint(), size(), [this](QPainter &layer) {
@@ -374,8 +375,10 @@ void RangedScaleSlider::paintEvent(QPaintEvent *)
     // Qt repaints for reasons of its own as well
     m_picture->handles = { Picture::Shown{ m_start.rect, color(Which::Start) },
                            Picture::Shown{ m_stop.rect, color(Which::Stop) } };
-    for (const Picture::Shown &shown : m_picture->handles)
-        HandleTravel::drawHandle(painter, shown.rect, shown.color);
+    for (const Picture::Shown &shown : m_picture->handles) {
+        if (event->region().intersects(HandleTravel::bounds(shown.rect)))
+            HandleTravel::drawHandle(painter, shown.rect, shown.color);
+    }
 }
 
 QRgb RangedScaleSlider::color(Which which) const
