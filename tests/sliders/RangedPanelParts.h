@@ -93,12 +93,16 @@ public:
 
     void drawTheGroundOfTheSheet()
     {
+        QWidget host; // Qt itself fills a window
+        host.resize(400, 160);
+        panel.setParent(&host);
         panel.setStyleSheet(QStringLiteral("%1 { background-color: #123456; }")
                                 .arg(QLatin1String(Panel::staticMetaObject.className())));
         panel.resize(400, 160);
 
-        const QImage image = panel.grab().toImage();
+        const QImage image = host.grab().toImage();
 
+        panel.setParent(nullptr);
         QCOMPARE(image.pixel(1, 1), 0xFF123456u);
         QCOMPARE(image.pixel(398, 158), 0xFF123456u);
     }

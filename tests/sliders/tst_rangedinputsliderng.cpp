@@ -238,6 +238,12 @@ void tst_RangedInputSliderNG::staysSilentWhenARangeIsSetSo()
     QCOMPARE(parts.startInput->text(), QStringLiteral("50"));
     QCOMPARE(parts.stopInput->text(), QStringLiteral("250"));
     QCOMPARE(recorder.taken(), QStringList());
+
+    panel.setRange(2000.0, 3000.0, true); // beyond all that slider and fields had
+    QCOMPARE(recorder.taken(), QStringList());
+    QCOMPARE(parts.startInput->value(), panel.startValue());
+    QCOMPARE(parts.stopInput->value(), panel.stopValue());
+    QVERIFY(panel.startValue() >= 2000.0);
 }
 
 void tst_RangedInputSliderNG::reportsANewDistance()
