@@ -35,6 +35,11 @@ const QVector<Page> &pages()
           QStringLiteral("One value on a slider and in a field. The selectors at the left and at "
                          "the right choose what is set, and in which unit."),
           buildComboSliderPage },
+        { QStringLiteral("ranged"), QStringLiteral("Ranged sliders"),
+          QStringLiteral(
+              "The two ends of a sweep. Drag a handle, turn the wheel on a slider of the "
+              "first generation, or type a number and press Return."),
+          buildRangedSliderPage },
         { QStringLiteral("numbers"), QStringLiteral("Numeric entry"),
           QStringLiteral("Type, or step the digit left of the cursor with the arrows. The number "
                          "beside a caption is the committed value; the field shows the edit."),

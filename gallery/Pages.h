@@ -27,6 +27,7 @@ QWidget *buildSliderPage();
 QWidget *buildScaleSliderPage();
 QWidget *buildAssemblyPage();
 QWidget *buildComboSliderPage();
+QWidget *buildRangedSliderPage();
 QWidget *buildNumberEntryPage();
 QWidget *buildButtonPage();
 QWidget *buildIndicatorPage();

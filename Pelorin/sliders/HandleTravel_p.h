@@ -29,7 +29,11 @@ struct HandleTravel
     double length() const { return width - 1.0 - (handleSize - 1.0) - 2.0 * sideMargins; }
 
     /// Whether a drag can tell one value from another.
-    bool isOpen() const { return length() > 0.0 && qIsFinite(scaleEnd - scaleStart); }
+    bool isOpen() const
+    {
+        const double span = scaleEnd - scaleStart;
+        return length() > 0.0 && qIsFinite(span) && span != 0.0;
+    }
 
     /// The value with the left edge of the handle at \a left.
     double valueAt(double left) const

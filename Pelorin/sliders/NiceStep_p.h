@@ -40,6 +40,8 @@ inline NiceScale niceScale(double min, double max, double parts)
         return {};
     const double last = std::ceil(max / step);
     const double first = std::floor(min / step);
+    if (!qIsFinite(last * step - first * step)) // reaches out beyond the largest number
+        return {};
     return { first * step, last * step, std::max(last - first, parts) };
 }
 

@@ -30,6 +30,9 @@
 #include "Pelorin/sliders/ComboSliderScale.h"
 #include "Pelorin/sliders/ComboSliderUnit.h"
 #include "Pelorin/sliders/HorizontalSlider.h"
+#include "Pelorin/sliders/RangedInputSlider.h"
+#include "Pelorin/sliders/RangedInputSliderNG.h"
+#include "Pelorin/sliders/RangedScaleSlider.h"
 #include "Pelorin/sliders/ScaleSlider.h"
 #include "Pelorin/sliders/ScaleSliderNG.h"
 #include "Pelorin/sliders/VerticalScaleSlider.h"
@@ -117,6 +120,9 @@ const QVector<Subject> &subjects()
         { "ComboSlider", filledComboSlider },
         { "HorizontalSlider",
           [] { return new HorizontalSlider(10, ScaleSliderNG::ScaleSqrt, nullptr); } },
+        { "RangedInputSlider", [] { return new RangedInputSlider(10); } },
+        { "RangedInputSliderNG", [] { return new RangedInputSliderNG(10); } },
+        { "RangedScaleSlider", [] { return new RangedScaleSlider; } },
         { "VerticalSlider",
           [] { return new VerticalSlider(ScaleSliderNG::ScaleLinear, true, nullptr); } },
         { "VerticalScaleSlider",

@@ -68,6 +68,7 @@ void tst_HandleTravel::reachesOutToNiceNumbers_data()
     QTest::newRow("reversed") << 900.0 << 400.0 << 3.0 << 0.0 << 0.0 << 0.0;
     QTest::newRow("infinite") << 0.0 << qInf() << 3.0 << 0.0 << 0.0 << 0.0;
     QTest::newRow("not a number") << qQNaN() << 1.0 << 3.0 << 0.0 << 0.0 << 0.0;
+    QTest::newRow("beyond the largest number") << 0.0 << 1.7e308 << 3.0 << 0.0 << 0.0 << 0.0;
     QTest::newRow("no parts") << 0.0 << 100.0 << 0.0 << 0.0 << 0.0 << 0.0;
 }
 
@@ -100,6 +101,7 @@ void tst_HandleTravel::placesTheHandle_data()
     QTest::newRow("between margins") << 335 << 20 << 0.0 << 100.0 << 50.0 << 150.0;
     QTest::newRow("before the scale") << 335 << 0 << 400.0 << 900.0 << 300.0 << -60.0;
     QTest::newRow("an empty scale") << 335 << 12 << 5.0 << 5.0 << 5.0 << 12.0;
+    QTest::newRow("off an empty scale") << 335 << 12 << 5.0 << 5.0 << 9.0 << 12.0;
     QTest::newRow("a widget as wide as the handle") << 35 << 0 << 0.0 << 100.0 << 50.0 << 0.0;
     QTest::newRow("a widget too narrow") << 10 << 3 << 0.0 << 100.0 << 50.0 << 3.0;
     QTest::newRow("not a number") << 335 << 4 << 0.0 << 100.0 << qQNaN() << 4.0;
