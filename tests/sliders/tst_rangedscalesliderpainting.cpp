@@ -2,13 +2,13 @@
 #include "tests/sliders/HandleProbe.h"
 #include "tests/support/MouseHand.h"
 #include "tests/support/PaintRecorder.h"
+#include "tests/support/PartialPaint.h"
 #include "tests/support/RepaintCounter.h"
 #include "tests/support/TestCase.h"
 
 #include <QFontMetrics>
 #include <QImage>
 #include <QPaintEvent>
-#include <QPainter>
 
 namespace {
 
@@ -18,6 +18,8 @@ using HandleProbe::ink;
 using HandleProbe::orange;
 using HandleProbe::red;
 using HandleProbe::track;
+using PartialPaint::blank;
+using PartialPaint::paintOnto;
 
 constexpr QRgb white = 0xFFFFFFFF;
 
@@ -67,21 +69,6 @@ const QPoint onStop(190, 17);
 QStringList words(const char *text)
 {
     return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
-QImage blank(const QWidget &widget, qreal ratio)
-{
-    QImage image((QSizeF(widget.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::black);
-    return image;
-}
-
-/// All of the widget, or \a region of it over \a image.
-void paintOnto(QImage &image, QWidget &widget, const QRegion &region = QRegion())
-{
-    QPainter painter(&image);
-    widget.render(&painter, region.boundingRect().topLeft(), region);
 }
 
 } // namespace
@@ -399,7 +386,7 @@ void tst_RangedScaleSliderPainting::paintsTheSameInPartAndWhole()
     Slider kept;
     Slider fresh;
     MouseHand hand(kept);
-    QImage image = blank(kept, ratio);
+    QImage image = blank(kept, ratio, Qt::black);
     paintOnto(image, kept);
     hand.press(onStart);
 
@@ -417,7 +404,7 @@ void tst_RangedScaleSliderPainting::paintsTheSameInPartAndWhole()
     paintOnto(image, kept, QRect(0, 0, 335, 40));
 
     fresh.setCurrentStartValue(fresh.accordingValue(81), false);
-    QImage whole = blank(fresh, ratio);
+    QImage whole = blank(fresh, ratio, Qt::black);
     paintOnto(whole, fresh);
     QCOMPARE(image, whole);
     const auto pixel = [&whole, ratio](double x, double y) {

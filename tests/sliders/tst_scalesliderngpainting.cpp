@@ -1,14 +1,17 @@
 #include "Pelorin/sliders/ScaleSliderNG.h"
 #include "tests/support/MouseHand.h"
 #include "tests/support/PaintRecorder.h"
+#include "tests/support/PartialPaint.h"
 #include "tests/support/TestCase.h"
 
 #include <QFontMetrics>
 #include <QImage>
 #include <QPaintEvent>
-#include <QPainter>
 
 namespace {
+
+using PartialPaint::blank;
+using PartialPaint::paintOnto;
 
 constexpr QRgb track = 0xFFC5C6C6;
 constexpr QRgb red = 0xFF87212E;
@@ -57,21 +60,6 @@ protected:
 QImage picture(QWidget &widget)
 {
     return widget.grab().toImage();
-}
-
-/// The whole widget at a device pixel ratio of \a ratio, all of it or \a region over \a image.
-void paintOnto(QImage &image, QWidget &widget, const QRegion &region = QRegion())
-{
-    QPainter painter(&image);
-    widget.render(&painter, region.boundingRect().topLeft(), region);
-}
-
-QImage blank(const QWidget &widget, qreal ratio)
-{
-    QImage image((QSizeF(widget.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::white);
-    return image;
 }
 
 /// What stands between the two end labels of a scale.

@@ -2,18 +2,20 @@
 #include "tests/sliders/HandleProbe.h"
 #include "tests/support/MouseHand.h"
 #include "tests/support/PaintRecorder.h"
+#include "tests/support/PartialPaint.h"
 #include "tests/support/TestCase.h"
 
 #include <QFontMetrics>
 #include <QImage>
 #include <QPaintEvent>
-#include <QPainter>
 
 Q_DECLARE_METATYPE(ScaleSlider::ScaleType)
 
 namespace {
 
 using HandleProbe::columnsOf;
+using PartialPaint::blank;
+using PartialPaint::paintOnto;
 
 constexpr auto linear = ScaleSlider::LinearScale;
 constexpr auto logarithmic = ScaleSlider::LogarithmicScale;
@@ -65,21 +67,6 @@ QList<double> countingTo(int last)
 QStringList words(const char *text)
 {
     return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
-QImage blank(const QWidget &widget, qreal ratio)
-{
-    QImage image((QSizeF(widget.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::white);
-    return image;
-}
-
-/// All of the widget, or \a region of it over \a image.
-void paintOnto(QImage &image, QWidget &widget, const QRegion &region = QRegion())
-{
-    QPainter painter(&image);
-    widget.render(&painter, region.boundingRect().topLeft(), region);
 }
 
 } // namespace
