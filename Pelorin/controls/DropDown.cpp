@@ -1,27 +1,46 @@
 #include "Pelorin/controls/DropDown.h"
 
+#include "Pelorin/controls/FixedSize_p.h"
+
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-/// Fixes the parts of \a row at the sizes that they need now, and tells whether these are new. For
-/// a row asks for the size that its parts have at the moment: stretched by the layout to the width
-/// of the list, they would make it wider each time that it is asked.
-bool fitParts(IconLabel &row)
+/// A layout is invalid after each setAlignment(), also when nothing changes.
+void keepFromStretching(QLayout &layout, QLabel *part)
 {
+    constexpr Qt::Alignment place = Qt::AlignLeft | Qt::AlignVCenter;
+    const int index = layout.indexOf(part);
+    if (index >= 0 && layout.itemAt(index)->alignment() != place)
+        layout.setAlignment(part, place);
+}
+
+/// Gives \a row the size that its parts need now, and tells whether that is a new one. For a row
+/// asks for the size that its parts have at the moment: stretched by the layout to the width of the
+/// list, they would make it wider each time that it is asked.
+bool fit(IconLabel &row)
+{
+    constexpr int gaps = 16; // as a row has it in its size
+    QSize size(gaps, 0);
     bool changed = false;
     const auto parts = row.findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
     for (QLabel *part : parts) {
-        row.layout()->setAlignment(part, Qt::AlignLeft | Qt::AlignVCenter);
         const QSize needed = part->isHidden() ? QSize(0, 0) : part->sizeHint();
-        changed = changed || part->size() != needed;
-        part->setFixedSize(needed);
+        size = QSize(size.width() + needed.width(), std::max(size.height(), needed.height()));
+        keepFromStretching(*row.layout(), part);
+        changed = changed || part->size() != part->size().boundedTo(needed);
+        part->resize(part->size().boundedTo(needed));
     }
+    // The layout adds a distance between text and icon.
+    size.rwidth() = boundedLength(std::max(size.width(), row.layout()->totalMinimumSize().width()));
+    changed = changed || row.minimumSize() != size;
+    row.setMinimumSize(size);
     if (changed)
         row.updateGeometry();
     return changed;
@@ -104,7 +123,7 @@ QSize DropDown::sizeHint() const
     ensurePolished(); // the sheet says how large a text is
     bool changed = false;
     for (const QPointer<IconLabel> &each : m_items)
-        changed = (each && fitParts(*each)) || changed;
+        changed = (each && fit(*each)) || changed;
     if (changed)
         m_frame->updateGeometry();
     return QWidget::sizeHint();

@@ -6,8 +6,10 @@
 #include "tests/support/TextList.h"
 
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -60,6 +62,19 @@ QString iconSide(const IconLabel &row)
     return first ? QStringLiteral("left") : QStringLiteral("right");
 }
 
+/// How often a widget was told to arrange itself anew.
+class LayoutRequests : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        count += event->type() == QEvent::LayoutRequest ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+
+    int count = 0;
+};
+
 } // namespace
 
 class tst_DropDown : public TestCase
@@ -90,7 +105,10 @@ private Q_SLOTS:
     void survivesAListenerThatClearsIt();
     void survivesARowThatIsDeleted();
     void isAsLargeAsItsRows();
+    void takesANewSizeBeforeItOpens();
     void keepsItsSize();
+    void comesToRest_data();
+    void comesToRest();
     void followsItsRowsWhileOpen();
 };
 
@@ -474,6 +492,32 @@ void tst_DropDown::isAsLargeAsItsRows()
         QCOMPARE(textPart(*row)->x(), 0); // texts begin one below the other
 }
 
+void tst_DropDown::takesANewSizeBeforeItOpens()
+{
+    const QString wide = QStringLiteral("A text that is clearly wider than eighty pixels");
+    DropDown list;
+    fill(list, { "Alpha", "Beta" });
+    open(list);
+    const int row = rowsOf(list).first()->height();
+    list.setItemVisibility(0, false);
+    QTRY_COMPARE(list.height(), std::max(row, list.minimumHeight()));
+    list.hide();
+
+    list.setItemVisibility(0, true);
+    list.addItem(QStringLiteral("Gamma"));
+    list.setItemText(1, wide);
+    list.show();
+
+    // at once, for who opens it puts it at a place that depends on its width
+    QCOMPARE(list.height(), 3 * row);
+    QCOMPARE(list.width(), list.fontMetrics().size(Qt::TextSingleLine, wide).width() + 16);
+
+    list.hide();
+    list.setItemText(1, QStringLiteral("Beta"));
+    list.show();
+    QCOMPARE(list.width(), list.minimumWidth());
+}
+
 void tst_DropDown::keepsItsSize()
 {
     DropDown list;
@@ -492,6 +536,41 @@ void tst_DropDown::keepsItsSize()
     }
 
     QCOMPARE(list.size(), size);
+}
+
+void tst_DropDown::comesToRest_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<IconLabel::IconDisplay>("display");
+
+    const QString wide(4000, QLatin1Char('W')); // wider than the screen
+    QTest::newRow("short text") << QStringLiteral("Alpha") << IconLabel::NoIcon;
+    QTest::newRow("short text and icon") << QStringLiteral("Alpha") << IconLabel::IconLeft;
+    QTest::newRow("wide text") << wide << IconLabel::NoIcon;
+    QTest::newRow("wide text and icon") << wide << IconLabel::IconRight;
+}
+
+void tst_DropDown::comesToRest()
+{
+    QFETCH(QString, text);
+    QFETCH(IconLabel::IconDisplay, display);
+    DropDown list;
+    list.showIcons(display);
+    list.addItem(text, crossIcon);
+    LayoutRequests requests;
+    list.installEventFilter(&requests);
+    const auto processAll = [] {
+        for (int i = 0; i < 20; ++i)
+            QApplication::processEvents();
+    };
+
+    list.show();
+    processAll();
+    const int before = requests.count;
+    processAll();
+
+    QCOMPARE(requests.count, before);
+    QVERIFY(list.width() < list.screen()->geometry().width());
 }
 
 void tst_DropDown::followsItsRowsWhileOpen()

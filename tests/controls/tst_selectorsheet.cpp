@@ -41,6 +41,7 @@ private Q_SLOTS:
     void writesTheRows_data();
     void writesTheRows();
     void fillsTheList();
+    void leavesAGapBetweenTextAndIcon();
     void marksTheRowUnderTheMouse();
     void drawsTheArrowOfAComboBox_data();
     void drawsTheArrowOfAComboBox();
@@ -96,6 +97,25 @@ void tst_SelectorSheet::fillsTheList()
         QCOMPARE(image.pixel(place), listGrey);
     QCOMPARE(qAlpha(image.pixel(0, 0)), 0); // round corners in a window that can be seen through
     QCOMPARE(qAlpha(image.pixel(image.width() - 1, image.height() - 1)), 0);
+}
+
+void tst_SelectorSheet::leavesAGapBetweenTextAndIcon()
+{
+    DropDown dropDown;
+    dropDown.showIcons(IconLabel::IconRight);
+    dropDown.addItem(QStringLiteral("A text that is clearly wider than two hundred pixels"),
+                     QStringLiteral(":/Pelorin/images/images/cross.png")); // 25 x 25
+    const QSize hint = dropDown.sizeHint();
+    open(dropDown);
+
+    QCOMPARE(dropDown.size(), hint); // known before it is shown
+    const QLayout &row = *rowsOf(dropDown).first()->layout();
+    const QRect text = row.itemAt(0)->geometry();
+    const QRect icon = row.itemAt(2)->geometry();
+    QVERIFY(text.width() > 200);
+    QVERIFY(icon.left() > text.right() + 1);
+    QCOMPARE(icon.width(), 25);
+    QCOMPARE(icon.right() + 1, dropDown.width() - 8); // the padding of a row
 }
 
 void tst_SelectorSheet::marksTheRowUnderTheMouse()
