@@ -60,6 +60,10 @@ const QVector<Page> &pages()
           QStringLiteral("Lists whose items can be hidden, disabled and explained one by one. Open "
                          "them, or step with the arrows; the wheel needs the focus first."),
           buildListPage },
+        { QStringLiteral("entry"), QStringLiteral("First-generation controls"),
+          QStringLiteral("The older entry fields and selectors. What was saved last stands at the "
+                         "right of a field's caption."),
+          buildFirstEntryPage },
         { QStringLiteral("overlays"), QStringLiteral("Overlays"),
           QStringLiteral("What lies over the page of a module that is away, or that has something "
                          "to say."),

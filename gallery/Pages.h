@@ -33,6 +33,7 @@ QWidget *buildButtonPage();
 QWidget *buildIndicatorPage();
 QWidget *buildLabelPage();
 QWidget *buildListPage();
+QWidget *buildFirstEntryPage();
 QWidget *buildOverlayPage();
 QWidget *buildFlowPage();
 QWidget *buildThemePage();
