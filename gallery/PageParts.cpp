@@ -31,6 +31,16 @@ QLabel *label(const QString &text, const char *type)
     return result;
 }
 
+QVBoxLayout *named(const char *name, QWidget *widget)
+{
+    auto *layout = new QVBoxLayout;
+    layout->setSpacing(4);
+    layout->addWidget(label(QString::fromUtf8(name), "text"));
+    layout->addWidget(widget, 0, Qt::AlignLeft);
+    layout->addStretch(1);
+    return layout;
+}
+
 QFrame *card(const QString &caption, const QString &note, QLayout *content)
 {
     QFrame *result = emptyCard();

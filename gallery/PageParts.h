@@ -6,6 +6,7 @@
 class QFrame;
 class QLabel;
 class QLayout;
+class QVBoxLayout;
 class QWidget;
 
 /// The few parts from which every page is laid out, in the theme's own labels and colours.
@@ -16,6 +17,9 @@ constexpr int gap = 16;
 
 /// A label in one of the theme's types: "heading", "label", "text", "text-bold", ...
 QLabel *label(const QString &text, const char *type);
+
+/// \a widget at its own size under a \a name.
+QVBoxLayout *named(const char *name, QWidget *widget);
 
 /// A white card with \a caption over \a content, and a fainter \a note under the caption where
 /// there is something to add.

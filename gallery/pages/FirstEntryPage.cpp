@@ -48,17 +48,6 @@ QLabel *note(const char *text)
     return result;
 }
 
-/// \a widget under a name.
-QVBoxLayout *named(const char *name, QWidget *widget)
-{
-    auto *layout = new QVBoxLayout;
-    layout->setSpacing(4);
-    layout->addWidget(PageParts::label(QString::fromUtf8(name), "text"));
-    layout->addWidget(widget, 0, Qt::AlignLeft);
-    layout->addStretch(1);
-    return layout;
-}
-
 /// A card and its share of the width of its row.
 struct Place
 {
@@ -247,11 +236,13 @@ QFrame *comboBoxCard(SignalLog *log)
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(28);
     grid->setVerticalSpacing(12);
-    grid->addLayout(named("three items", comboBox("three items", "label", 3, log)), 0, 0);
-    grid->addLayout(named("one item", comboBox("one item", "label", 1, log)), 0, 1);
-    grid->addLayout(named("one item, single mode", single), 0, 2);
-    grid->addLayout(named("heading", comboBox("heading", "heading", 3, log)), 1, 0, 1, 2);
-    grid->addLayout(named("empty", empty), 1, 2);
+    grid->addLayout(PageParts::named("three items", comboBox("three items", "label", 3, log)), 0,
+                    0);
+    grid->addLayout(PageParts::named("one item", comboBox("one item", "label", 1, log)), 0, 1);
+    grid->addLayout(PageParts::named("one item, single mode", single), 0, 2);
+    grid->addLayout(PageParts::named("heading", comboBox("heading", "heading", 3, log)), 1, 0, 1,
+                    2);
+    grid->addLayout(PageParts::named("empty", empty), 1, 2);
     grid->setColumnStretch(2, 1);
     return PageParts::card(QStringLiteral("ComboBox"), QString(), grid);
 }
@@ -275,7 +266,7 @@ QFrame *hiddenItemsCard(SignalLog *log)
     }
     auto *row = new QHBoxLayout;
     row->setSpacing(24);
-    row->addLayout(named("with icons", box));
+    row->addLayout(PageParts::named("with icons", box));
     row->addStretch(1);
     row->addLayout(checks);
     return PageParts::card(QStringLiteral("ComboBox, hidden items"), QString(), row);
@@ -333,12 +324,12 @@ QFrame *openListsCard()
     hidden->setItemVisibility(1, false);
     auto *row = new QHBoxLayout;
     row->setSpacing(20);
-    row->addLayout(named("plain", openList("", IconLabel::NoIcon, 1)));
-    row->addLayout(named("an item hidden", hidden));
-    row->addLayout(named("label", openList("label", IconLabel::NoIcon, -1)));
-    row->addLayout(named("heading", openList("heading", IconLabel::NoIcon, -1)));
-    row->addLayout(named("icon left", openList("", IconLabel::IconLeft, -1)));
-    row->addLayout(named("icon right", openList("", IconLabel::IconRight, -1)));
+    row->addLayout(PageParts::named("plain", openList("", IconLabel::NoIcon, 1)));
+    row->addLayout(PageParts::named("an item hidden", hidden));
+    row->addLayout(PageParts::named("label", openList("label", IconLabel::NoIcon, -1)));
+    row->addLayout(PageParts::named("heading", openList("heading", IconLabel::NoIcon, -1)));
+    row->addLayout(PageParts::named("icon left", openList("", IconLabel::IconLeft, -1)));
+    row->addLayout(PageParts::named("icon right", openList("", IconLabel::IconRight, -1)));
     row->addStretch(1);
     return PageParts::card(QStringLiteral("DropDown, open"), QString(), row);
 }

@@ -120,17 +120,6 @@ QLabel *openList(QComboBox *box, int current, int width)
     return result;
 }
 
-/// \a widget over a name.
-QVBoxLayout *named(QWidget *widget, const char *name)
-{
-    auto *layout = new QVBoxLayout;
-    layout->setSpacing(4);
-    layout->addWidget(PageParts::label(QString::fromUtf8(name), "text"));
-    layout->addWidget(widget, 0, Qt::AlignLeft);
-    layout->addStretch(1);
-    return layout;
-}
-
 QFrame *hiddenItemsCard(SignalLog *log)
 {
     DropDownNG *list = liveDropDown(log);
@@ -143,7 +132,7 @@ QFrame *hiddenItemsCard(SignalLog *log)
             i + 1, 1, Qt::AlignHCenter);
     auto *row = new QHBoxLayout;
     row->setSpacing(32);
-    row->addLayout(named(list, "Trigger"));
+    row->addLayout(PageParts::named("Trigger", list));
     row->addStretch(1);
     row->addLayout(checks);
     return PageParts::card(QStringLiteral("DropDownNG, items hidden one by one"),
@@ -157,7 +146,7 @@ QFrame *disabledCard(SignalLog *log)
     list->setEnabled(false);
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
-    row->addLayout(named(list, "Trigger"));
+    row->addLayout(PageParts::named("Trigger", list));
     row->addStretch(1);
     row->addWidget(PageParts::label(QStringLiteral("enabled"), "text"), 0, Qt::AlignTop);
     row->addWidget(checkBox(false, [list](bool enabled) { list->setEnabled(enabled); }), 0,
@@ -187,11 +176,11 @@ QFrame *sizesCard(SignalLog *log)
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(24);
     grid->setVerticalSpacing(12);
-    grid->addLayout(named(liveComboBox(log), "plain"), 0, 0);
-    grid->addLayout(named(editable, "editable"), 0, 1);
-    grid->addLayout(named(liveComboBox(log, "text"), "compact"), 1, 0);
-    grid->addLayout(named(compactEditable, "compact, editable"), 1, 1);
-    grid->addLayout(named(disabled, "disabled"), 2, 0);
+    grid->addLayout(PageParts::named("plain", liveComboBox(log)), 0, 0);
+    grid->addLayout(PageParts::named("editable", editable), 0, 1);
+    grid->addLayout(PageParts::named("compact", liveComboBox(log, "text")), 1, 0);
+    grid->addLayout(PageParts::named("compact, editable", compactEditable), 1, 1);
+    grid->addLayout(PageParts::named("disabled", disabled), 2, 0);
     grid->setColumnStretch(2, 1);
     return PageParts::card(QStringLiteral("ComboBoxNG"), QString(), grid);
 }
@@ -212,7 +201,7 @@ QFrame *barredItemsCard(SignalLog *log)
     }
     auto *row = new QHBoxLayout;
     row->setSpacing(32);
-    row->addLayout(named(box, "Trigger"));
+    row->addLayout(PageParts::named("Trigger", box));
     row->addStretch(1);
     row->addLayout(grid);
     return PageParts::card(
@@ -234,8 +223,8 @@ QFrame *toolTipCard(SignalLog *log)
     QObject::connect(box, qOverload<int>(&QComboBox::currentIndexChanged), tip, follow);
     auto *row = new QHBoxLayout;
     row->setSpacing(24);
-    row->addLayout(named(box, "Trigger"));
-    row->addLayout(named(tip, "its tool tip"));
+    row->addLayout(PageParts::named("Trigger", box));
+    row->addLayout(PageParts::named("its tool tip", tip));
     row->addStretch(1);
     return PageParts::card(QStringLiteral("ComboBoxNG, the tool tip of its item"), QString(), row);
 }
