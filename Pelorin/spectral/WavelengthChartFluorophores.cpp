@@ -30,6 +30,14 @@ QVector<QPointF> drawable(const QVector<QPointF> &points, double scale = 1.0)
     return result;
 }
 
+/// Where the area has been deleted from outside, Qt Charts still has an item that listens to the
+/// line, and would look for it.
+void replacePoints(QLineSeries *line, const QAreaSeries *area, const QVector<QPointF> &points)
+{
+    if (line && area)
+        line->replace(points);
+}
+
 } // namespace
 
 void WavelengthChart::getFluorophores(QList<tFluorophoreData> &fluorophores) const
@@ -100,7 +108,7 @@ void WavelengthChart::addFluorophore(tFluorophoreData fluorophoreData)
 
 void WavelengthChart::addCurve(QPointer<QLineSeries> &line, QPointer<QAreaSeries> &area)
 {
-    line = new QLineSeries;
+    line = new QLineSeries(m_chart); // an area does not own its edge
     area = new QAreaSeries(line);
     m_layer->adopt([this, &area] { m_chart->addSeries(area); });
     area->attachAxis(m_wavelengthAxis);
@@ -191,8 +199,7 @@ void WavelengthChart::refreshFluorophoreData(tFluorophoreViewData &view)
 {
     const QColor color = getFluorophoreColor(view.emission);
     getSeriesPeakPoint(view.excitation, view.excitationPeak);
-    if (view.excitationLine)
-        view.excitationLine->replace(drawable(view.excitation));
+    replacePoints(view.excitationLine, view.excitationArea, drawable(view.excitation));
     if (view.excitationArea) {
         view.excitationArea->setName(QStringLiteral("%1-Excitation").arg(view.name));
         view.excitationArea->setColor(color);
@@ -200,8 +207,7 @@ void WavelengthChart::refreshFluorophoreData(tFluorophoreViewData &view)
         view.excitationArea->setBrush(QBrush());
     }
     getSeriesPeakPoint(view.emission, view.emissionPeak);
-    if (view.emissionLine)
-        view.emissionLine->replace(drawable(view.emission));
+    replacePoints(view.emissionLine, view.emissionArea, drawable(view.emission));
     if (view.emissionArea) {
         view.emissionArea->setName(QStringLiteral("%1-Emission").arg(view.name));
         view.emissionArea->setColor(color);
@@ -220,8 +226,7 @@ void WavelengthChart::refreshFluorophoreData(tFluorophoreViewData &view)
 
 void WavelengthChart::refreshFluorophoreEmission(tFluorophoreViewData &view, double scale)
 {
-    if (view.emissionLine)
-        view.emissionLine->replace(drawable(view.emission, scale));
+    replacePoints(view.emissionLine, view.emissionArea, drawable(view.emission, scale));
     m_layer->invalidate();
 }
 
@@ -365,7 +370,7 @@ void WavelengthChart::priFluorophoreRangeChanged(double, double)
 void WavelengthChart::updateSeries()
 {
     for (const tFluorophoreViewData &view : qAsConst(m_fluorophores)) {
-        if (view.emissionLine)
+        if (view.emissionLine && view.emissionArea)
             Q_EMIT view.emissionLine->pointsReplaced();
     }
 }

@@ -47,7 +47,7 @@ void WavelengthChart::setWavelengthBandwidthPower(double wavelength, double band
 /// axis, so that a narrow band is seen too.
 void WavelengthChart::refreshFilterIllustration()
 {
-    if (!m_filterSeries)
+    if (!m_filterSeries || !m_filterArea)
         return;
     const double lower = std::max(m_minWavelength, m_wavelength - m_bandwidth * 0.5);
     const double upper = std::min(m_maxWavelength, m_wavelength + m_bandwidth * 0.5);
