@@ -1,21 +1,43 @@
 #include "Pelorin/spectral/SeriesLayer_p.h"
 
+#include <QAreaSeries>
 #include <QChart>
+#include <QLineSeries>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
+#include <QXYSeries>
+
+using QtCharts::QAbstractSeries;
+using QtCharts::QAreaSeries;
+using QtCharts::QXYSeries;
 
 SeriesLayer::SeriesLayer(QtCharts::QChart *chart)
-    : QGraphicsItem(chart)
+    : QGraphicsObject(chart)
     , m_chart(chart)
 {
     setAcceptedMouseButtons(Qt::NoButton);
 }
 
-void SeriesLayer::adopt(const std::function<void()> &add)
+void SeriesLayer::adopt(QXYSeries *series)
+{
+    takeOver(series);
+    watch(series);
+}
+
+void SeriesLayer::adopt(QAreaSeries *series)
+{
+    takeOver(series);
+    watch(series->upperSeries());
+    connect(series, &QAreaSeries::colorChanged, this, &SeriesLayer::invalidate);
+    connect(series, &QAreaSeries::borderColorChanged, this, &SeriesLayer::invalidate);
+}
+
+/// The item that appears with a series is its curve.
+void SeriesLayer::takeOver(QAbstractSeries *series)
 {
     const QList<QGraphicsItem *> before = m_chart->childItems();
-    add();
+    m_chart->addSeries(series);
     const QList<QGraphicsItem *> after = m_chart->childItems();
     for (QGraphicsItem *item : after) {
         QGraphicsObject *const object = item->toGraphicsObject();
@@ -25,7 +47,19 @@ void SeriesLayer::adopt(const std::function<void()> &add)
         m_items.append(object);
         setZValue(qMax(zValue(), item->zValue()));
     }
+    connect(series, &QAbstractSeries::visibleChanged, this, &SeriesLayer::invalidate);
+    connect(series, &QAbstractSeries::opacityChanged, this, &SeriesLayer::invalidate);
     invalidate();
+}
+
+void SeriesLayer::watch(QXYSeries *line)
+{
+    connect(line, &QXYSeries::pointsReplaced, this, &SeriesLayer::invalidate);
+    connect(line, &QXYSeries::pointReplaced, this, &SeriesLayer::invalidate);
+    connect(line, &QXYSeries::pointAdded, this, &SeriesLayer::invalidate);
+    connect(line, &QXYSeries::pointRemoved, this, &SeriesLayer::invalidate);
+    connect(line, &QXYSeries::pointsRemoved, this, &SeriesLayer::invalidate);
+    connect(line, &QXYSeries::penChanged, this, &SeriesLayer::invalidate);
 }
 
 void SeriesLayer::invalidate()

@@ -1,13 +1,12 @@
 #ifndef PELORIN_SPECTRAL_SERIESLAYER_P_H
 #define PELORIN_SPECTRAL_SERIESLAYER_P_H
 
-#include <QGraphicsItem>
+#include "Pelorin/PelorinGlobal.h"
+
 #include <QGraphicsObject>
 #include <QImage>
 #include <QPointer>
 #include <QVector>
-
-#include <functional>
 
 namespace QtCharts {
 class QAbstractSeries;
@@ -24,13 +23,14 @@ class QXYSeries;
 /// only not asked to paint by the scene, but by this layer. The picture is made anew when data, pen,
 /// brush, place, visibility, axes, size or pixel ratio change. On a printer the curves are painted as
 /// they are, so that they stay vectors.
-class SeriesLayer : public QGraphicsItem
+class PELORIN_EXPORT SeriesLayer : public QGraphicsObject
 {
 public:
     explicit SeriesLayer(QtCharts::QChart *chart);
 
-    /// Takes over the curve of the series that \a add adds to the chart.
-    void adopt(const std::function<void()> &add);
+    /// Adds \a series to the chart and takes over its curve.
+    void adopt(QtCharts::QXYSeries *series);
+    void adopt(QtCharts::QAreaSeries *series);
 
     /// Something has changed that the layer cannot see.
     void invalidate();
@@ -70,6 +70,8 @@ private:
         }
     };
 
+    void takeOver(QtCharts::QAbstractSeries *series);
+    void watch(QtCharts::QXYSeries *line);
     Picture pictureFor(const QTransform &device) const;
     void render(const Picture &picture, const QPainter &target, QWidget *widget);
     void paintItems(QPainter &painter, const QTransform &base, QWidget *widget) const;

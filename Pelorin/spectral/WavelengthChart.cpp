@@ -213,7 +213,7 @@ void WavelengthChart::createFilter()
     m_layer = new SeriesLayer(m_chart);
     m_filterSeries = new QLineSeries;
     m_filterSeries->setPen(QPen(filterColor, 1));
-    m_layer->adopt([this] { m_chart->addSeries(m_filterSeries); });
+    m_layer->adopt(m_filterSeries);
     m_filterAxis = makeAxis(0.0, 100.0, "%.3f");
     m_filterAxis->setTitleText(tr("Power setpoint in %1").arg(QStringLiteral("mW")));
     m_filterAxis->setVisible(false);
@@ -221,7 +221,7 @@ void WavelengthChart::createFilter()
     m_filterSeries->attachAxis(m_filterAxis);
 
     m_filterArea = new QAreaSeries(m_filterSeries);
-    m_layer->adopt([this] { m_chart->addSeries(m_filterArea); });
+    m_layer->adopt(m_filterArea);
     m_filterArea->attachAxis(m_wavelengthAxis);
     m_filterArea->attachAxis(m_filterAxis);
     m_filterArea->setColor(filterColor);
@@ -233,6 +233,8 @@ void WavelengthChart::createFilter()
     m_chart->addAxis(m_fluorophoreAxis, Qt::AlignRight);
     connect(m_fluorophoreAxis, &QValueAxis::rangeChanged, this,
             &WavelengthChart::priFluorophoreRangeChanged);
+    for (const QValueAxis *axis : { m_wavelengthAxis, m_filterAxis, m_fluorophoreAxis })
+        connect(axis, &QValueAxis::rangeChanged, m_layer, &SeriesLayer::invalidate);
     // An area whose upper edge has an axis already makes Qt Charts forget the range of that axis.
     m_filterAxis->setRange(0.0, 100.0);
     m_fluorophoreAxis->setRange(0.0, 100.0);

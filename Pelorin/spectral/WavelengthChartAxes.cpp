@@ -191,7 +191,6 @@ void WavelengthChart::refreshLayout()
 {
     if (!m_layer) // not built whole yet
         return;
-    m_layer->invalidate();
     generateBackBrush();
     refreshZoom();
     refreshDisplayControls();

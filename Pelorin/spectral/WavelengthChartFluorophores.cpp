@@ -110,7 +110,7 @@ void WavelengthChart::addCurve(QPointer<QLineSeries> &line, QPointer<QAreaSeries
 {
     line = new QLineSeries(m_chart); // an area does not own its edge
     area = new QAreaSeries(line);
-    m_layer->adopt([this, &area] { m_chart->addSeries(area); });
+    m_layer->adopt(area);
     area->attachAxis(m_wavelengthAxis);
     area->attachAxis(m_fluorophoreAxis);
 }
@@ -227,7 +227,6 @@ void WavelengthChart::refreshFluorophoreData(tFluorophoreViewData &view)
 void WavelengthChart::refreshFluorophoreEmission(tFluorophoreViewData &view, double scale)
 {
     replacePoints(view.emissionLine, view.emissionArea, drawable(view.emission, scale));
-    m_layer->invalidate();
 }
 
 /// On the peak that is shown, or on the rainbow where there is none to stand on.
@@ -282,7 +281,6 @@ void WavelengthChart::applyVisibility(const tFluorophoreViewData &view, int part
     if (parts & TagPart)
         view.nameTag->setVisible(m_fluorophoresVisible
                                  && (m_emissionVisible || m_excitationVisible));
-    m_layer->invalidate();
 }
 
 void WavelengthChart::setFluorophoreVisibilityState(bool excitationVisible, bool emissionVisible,

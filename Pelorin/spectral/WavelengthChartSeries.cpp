@@ -1,7 +1,5 @@
 #include "Pelorin/spectral/WavelengthChart.h"
 
-#include "Pelorin/spectral/SeriesLayer_p.h"
-
 #include <QRandomGenerator>
 
 #include <algorithm>
@@ -58,7 +56,6 @@ void WavelengthChart::refreshFilterIllustration()
                                               { upper - 0.2, level },
                                               { upper - 0.1, m_filterPowerMax },
                                               { upper, m_filterPowerMin } });
-    m_layer->invalidate();
 }
 
 void WavelengthChart::generateSpectrum()
@@ -78,7 +75,6 @@ void WavelengthChart::generateSpectrum()
     for (int i = 380; i < 750; ++i)
         filter.append(QPointF(i, i >= 450 && i <= 454 ? 50.0 : 10.0));
     m_filterSeries->append(filter);
-    m_layer->invalidate();
 }
 
 void WavelengthChart::appendRandomData()
