@@ -19,33 +19,42 @@ function(pelorin_compile_options target)
     endif()
 endfunction()
 
-# pelorin_subsystem(<folder> CLASSES <class>... [SOURCES <file>...] [HEADERS <header>...]
-#                   [PRIVATE <header>...])
+# pelorin_subsystem(<folder> CLASSES <class>... [TYPES <type>...] [SOURCES <file>...]
+#                   [HEADERS <header>...] [PRIVATE <header>...])
 #
 # Adds the subsystem in the current folder to the library. CLASSES are its exported classes: each has
 # <class>.h and <class>.cpp, is installed, gets a forwarding header <Pelorin/class>, and is compiled
-# alone by the header check. SOURCES are further sources, HEADERS those that are installed because others
-# include them, but that nobody includes by name, PRIVATE the headers that are not installed.
+# alone by the header check. TYPES are the same without a <type>.cpp. SOURCES are further sources,
+# HEADERS those that are installed because others include them, but that nobody includes by name, PRIVATE
+# the headers that are not installed.
 function(pelorin_subsystem folder)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "CLASSES;SOURCES;HEADERS;PRIVATE")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "CLASSES;TYPES;SOURCES;HEADERS;PRIVATE")
 
     target_sources(Pelorin PRIVATE ${arg_SOURCES} ${arg_HEADERS} ${arg_PRIVATE})
     install(FILES ${arg_HEADERS} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/Pelorin/${folder}")
     foreach(class IN LISTS arg_CLASSES)
-        target_sources(Pelorin PRIVATE ${class}.h ${class}.cpp)
-
+        target_sources(Pelorin PRIVATE ${class}.cpp)
+    endforeach()
+    foreach(class IN LISTS arg_CLASSES arg_TYPES)
+        target_sources(Pelorin PRIVATE ${class}.h)
         set(forward "${PROJECT_BINARY_DIR}/include/Pelorin/${class}")
         configure_file("${PROJECT_SOURCE_DIR}/cmake/ForwardingHeader.in" "${forward}" @ONLY)
         install(FILES "${forward}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/Pelorin")
         install(FILES ${class}.h DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/Pelorin/${folder}")
     endforeach()
     set_property(GLOBAL APPEND PROPERTY PELORIN_CLASSES ${arg_CLASSES})
+    set_property(GLOBAL APPEND PROPERTY PELORIN_TYPES ${arg_TYPES})
 endfunction()
 
 # pelorin_header_check(): an object library that includes each forwarding header first, in a file of its own.
 function(pelorin_header_check)
     get_property(classes GLOBAL PROPERTY PELORIN_CLASSES)
-    foreach(class IN LISTS classes)
+    get_property(types GLOBAL PROPERTY PELORIN_TYPES)
+    foreach(class IN LISTS classes types)
+        set(assertion "")
+        if(class IN_LIST classes)
+            set(assertion "static_assert(sizeof(${class}) > 0, \"the header defines its class\");")
+        endif()
         set(source "${CMAKE_CURRENT_BINARY_DIR}/headers/${class}.cpp")
         configure_file("${PROJECT_SOURCE_DIR}/cmake/HeaderCheck.cpp.in" "${source}" @ONLY)
         list(APPEND sources "${source}")

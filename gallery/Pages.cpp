@@ -64,6 +64,10 @@ const QVector<Page> &pages()
           QStringLiteral("The older entry fields and selectors. What was saved last stands at the "
                          "right of a field's caption."),
           buildFirstEntryPage },
+        { QStringLiteral("chart"), QStringLiteral("Wavelength chart"),
+          QStringLiteral("A spectrometer at 20 Hz, the band of a laser, and eight dyes of which it "
+                         "excites a part. Drag over the plot to zoom in."),
+          buildChartPage },
         { QStringLiteral("overlays"), QStringLiteral("Overlays"),
           QStringLiteral("What lies over the page of a module that is away, or that has something "
                          "to say."),

@@ -28,6 +28,7 @@ QWidget *buildScaleSliderPage();
 QWidget *buildAssemblyPage();
 QWidget *buildComboSliderPage();
 QWidget *buildRangedSliderPage();
+QWidget *buildChartPage();
 QWidget *buildNumberEntryPage();
 QWidget *buildButtonPage();
 QWidget *buildIndicatorPage();

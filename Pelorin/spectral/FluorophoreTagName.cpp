@@ -35,6 +35,12 @@ QPainterPath FluorophoreTagName::shape() const
     return path;
 }
 
+/// The text item would look for a text of its own.
+bool FluorophoreTagName::contains(const QPointF &point) const
+{
+    return boundingRect().contains(point);
+}
+
 void FluorophoreTagName::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     const QRectF ground = boundingRect();

@@ -24,6 +24,7 @@ public:
     QRectF boundingRect() const override;
     /// All of it, so that the mouse finds the tool tip.
     QPainterPath shape() const override;
+    bool contains(const QPointF &point) const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 private:
