@@ -20,6 +20,12 @@ inline int saturatedRound(double value)
     return qRound(value);
 }
 
+/// int() for numbers of any size, likewise.
+inline int saturatedTruncation(double value)
+{
+    return saturatedRound(std::trunc(value));
+}
+
 /// \a value rounded as qRound() does it to \a decimals decimals; a negative number of decimals
 /// rounds to tens, hundreds and so on. A value that a double cannot hold with so many decimals is
 /// returned as it is.

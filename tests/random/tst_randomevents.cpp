@@ -37,6 +37,9 @@
 #include "Pelorin/sliders/ScaleSliderNG.h"
 #include "Pelorin/sliders/VerticalScaleSlider.h"
 #include "Pelorin/sliders/VerticalSlider.h"
+#include "Pelorin/spectral/Channel.h"
+#include "Pelorin/spectral/ChannelGroup.h"
+#include "Pelorin/spectral/ChannelSliders.h"
 #include "tests/support/RandomEvents.h"
 #include "tests/support/TestCase.h"
 
@@ -132,6 +135,9 @@ const QVector<Subject> &subjects()
           [] { return new ScaleSliderNG(Qt::Horizontal, ScaleSliderNG::ScaleLinear, nullptr); } },
         { "ScaleSliderNG, vertical steps",
           [] { return new ScaleSliderNG(Qt::Vertical, ScaleSliderNG::ScaleSqrtSteps, nullptr); } },
+        { "Channel", [] { return new Channel(3); } },
+        { "ChannelGroup", [] { return new ChannelGroup; } },
+        { "ChannelSliders", [] { return new ChannelSliders(3); } },
     };
     return list;
 }
@@ -165,6 +171,7 @@ void tst_RandomEvents::livesThroughNonsense()
     // A crash leaves no report of the test behind, so the seed is told before.
     std::fprintf(stderr, "%s, seed %u\n", subjects().at(subject).name, seed);
     tolerateMessages(QtDebugMsg, QStringLiteral("Reset: "));
+    tolerateMessages(QtDebugMsg, QStringLiteral("LineEditNumber::nudge"));
     // of properties that are Qt's own
     tolerateMessages(QtWarningMsg, QStringLiteral("QComboBox::setMax"));
     tolerateMessages(QtDebugMsg, QStringLiteral("VerticalScaleSlider::priValueChanging "));
