@@ -40,6 +40,8 @@
 #include "Pelorin/spectral/Channel.h"
 #include "Pelorin/spectral/ChannelGroup.h"
 #include "Pelorin/spectral/ChannelSliders.h"
+#include "Pelorin/spectral/WavelengthSpectrum.h"
+#include "Pelorin/spectral/WavelengthSpectrumNG.h"
 #include "tests/support/RandomEvents.h"
 #include "tests/support/TestCase.h"
 
@@ -138,6 +140,8 @@ const QVector<Subject> &subjects()
         { "Channel", [] { return new Channel(3); } },
         { "ChannelGroup", [] { return new ChannelGroup; } },
         { "ChannelSliders", [] { return new ChannelSliders(3); } },
+        { "WavelengthSpectrum", [] { return new WavelengthSpectrum(10); } },
+        { "WavelengthSpectrumNG", [] { return new WavelengthSpectrumNG(10); } },
     };
     return list;
 }
