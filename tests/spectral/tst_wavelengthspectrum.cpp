@@ -1,9 +1,9 @@
 #include "Pelorin/spectral/WavelengthSpectrum.h"
+#include "tests/spectral/SpectrumChecks.h"
 #include "tests/spectral/SpectrumProbe.h"
 #include "tests/support/MetaMethods.h"
 #include "tests/support/PaintRecorder.h"
 #include "tests/support/PartialPaint.h"
-#include "tests/support/RepaintCounter.h"
 #include "tests/support/TestCase.h"
 
 #include <QPainter>
@@ -63,7 +63,7 @@ private Q_SLOTS:
     void findsTheDistanceOfPowers();
     void labelsTheRanges_data();
     void labelsTheRanges();
-    void placesTheWavelengthsOverTheirLabels();
+    void placesTheLabelsUnderTheirTicks();
     void shiftsTheLastLabel();
     void keepsALabelThatReachesTheEdge();
     void placesThePowersBesideTheirTicks();
@@ -114,27 +114,14 @@ void tst_WavelengthSpectrum::keepsAnyRange()
     QFETCH(int, max);
     WavelengthSpectrum bar(10);
 
-    bar.setWavelengthRange(min, max);
-    QCOMPARE(bar.minWavelength(), min);
-    QCOMPARE(bar.maxWavelength(), max);
-    QCOMPARE(bar.maxPower(), 100);
-
-    bar.setPowerRange(min, max);
-    QCOMPARE(bar.minPower(), min);
-    QCOMPARE(bar.maxPower(), max);
+    SpectrumChecks::keepsAnyRange(bar, min, max);
 }
 
 void tst_WavelengthSpectrum::repaintsWhenARangeIsSet()
 {
     Bar bar;
-    QVERIFY(QTest::qWaitForWindowExposed(&bar));
-    RepaintCounter repaints(bar);
 
-    bar.setWavelengthRange(300, 950); // what it was
-    QCOMPARE(repaints.taken(), 1);
-
-    bar.setPowerRange(0, 50);
-    QCOMPARE(repaints.taken(), 1);
+    SpectrumChecks::repaintsWhenARangeIsSet(bar);
 }
 
 void tst_WavelengthSpectrum::layoutsTheSpectrumWhenPainted_data()
@@ -347,25 +334,7 @@ void tst_WavelengthSpectrum::leavesThePainterAsItWas()
 
 void tst_WavelengthSpectrum::findsTheDistanceOfWavelengths_data()
 {
-    QTest::addColumn<int>("min");
-    QTest::addColumn<int>("max");
-    QTest::addColumn<int>("distance");
-
-    // 400 pixels, so 40 of them are a tenth of the range
-    QTest::newRow("exactly ten") << 400 << 500 << 10;
-    QTest::newRow("less than eleven is cut to ten") << 400 << 509 << 10;
-    QTest::newRow("eleven") << 400 << 510 << 20;
-    QTest::newRow("twenty") << 400 << 600 << 20;
-    QTest::newRow("fifty") << 400 << 900 << 50;
-    QTest::newRow("hundred") << 0 << 1000 << 100;
-    QTest::newRow("two hundred") << 0 << 1010 << 200;
-    QTest::newRow("five hundred") << 0 << 5000 << 500;
-    QTest::newRow("thousand") << 0 << 10000 << 1000;
-    QTest::newRow("two thousand") << 0 << 10010 << 2000;
-    QTest::newRow("exactly two thousand") << 0 << 20000 << 2000;
-    QTest::newRow("what is no round number") << 0 << 20015 << 2001; // 2001.5
-    QTest::newRow("without span") << 400 << 400 << 10;
-    QTest::newRow("reversed") << 900 << 400 << 10;
+    SpectrumChecks::addWavelengthDistances<int>();
     QTest::newRow("widest") << lowest << highest << 429496729; // a tenth of 2 to the 32, less one
 }
 
@@ -384,21 +353,8 @@ void tst_WavelengthSpectrum::findsTheDistanceOfWavelengths()
 
 void tst_WavelengthSpectrum::findsTheDistanceOfPowers_data()
 {
-    QTest::addColumn<int>("max");
-    QTest::addColumn<int>("pixels");
-    QTest::addColumn<int>("distance");
-
-    // 200 pixels
-    QTest::newRow("less than ten") << 100 << 15 << 10;                  // 7.5
-    QTest::newRow("less than eleven is cut to ten") << 100 << 21 << 10; // 10.5
-    QTest::newRow("eleven") << 100 << 22 << 20;
-    for (int tens = 20; tens <= 90; tens += 10)
-        QTest::addRow("exactly %d", tens) << 200 << tens << tens;
-    QTest::newRow("ninety-one") << 200 << 91 << 100;
-    QTest::newRow("what is no round number") << 200 << 137 << 137;
-    QTest::newRow("no pixels") << 100 << 0 << 10;
-    QTest::newRow("fewer than no pixels") << 100 << -20 << 10;
-    QTest::newRow("reversed") << -100 << 15 << 10;
+    SpectrumChecks::addPowerDistances<int>();
+    QTest::newRow("half is cut") << 105 << 20 << 10; // 10.5
     QTest::newRow("more than a number holds") << highest << highest << highest;
 }
 
@@ -417,42 +373,19 @@ void tst_WavelengthSpectrum::findsTheDistanceOfPowers()
 
 void tst_WavelengthSpectrum::labelsTheRanges_data()
 {
-    QTest::addColumn<int>("minPower");
-    QTest::addColumn<int>("maxPower");
-    QTest::addColumn<int>("minWavelength");
-    QTest::addColumn<int>("maxWavelength");
-    QTest::addColumn<QString>("labels"); // powers, wavelengths
-
-    // 200 pixels with a label in each font height, 401 with one in 40
-    QTest::newRow("hundreds and the end")
-        << 0 << 100 << 300 << 950
-        << "0 10 20 30 40 50 60 70 80 90 100 300 400 500 600 700 800 900 950";
-    QTest::newRow("whole steps") << 0 << 20 << 400 << 600
-                                 << "0 10 20 400 420 440 460 480 500 520 540 560 580 600";
-    QTest::newRow("steps from an odd start")
-        << 5 << 32 << 405 << 492 << "5 15 25 32 405 415 425 435 445 455 465 475 485 492";
-    QTest::newRow("the last next to its neighbour")
-        << 0 << 11 << 500 << 521 << "0 10 11 500 510 520 521";
-    QTest::newRow("negative") << -15 << 5 << -20 << 15 << "-15 -5 5 -20 -10 0 10 15";
-    QTest::newRow("without span") << 50 << 50 << 500 << 500 << "50 500";
-    QTest::newRow("reversed") << 100 << 0 << 950 << 300 << "";
+    SpectrumChecks::addLabels<int>();
+    QTest::newRow("to the highest number")
+        << 0 << 10 << highest - 15 << highest << "0 10 2147483632 2147483642 2147483647";
 }
 
 void tst_WavelengthSpectrum::labelsTheRanges()
 {
-    QFETCH(int, minPower);
-    QFETCH(int, maxPower);
-    QFETCH(int, minWavelength);
-    QFETCH(int, maxWavelength);
-    QVERIFY(metrics().height() <= 20);
     Bar bar;
-    bar.setPowerRange(minPower, maxPower);
-    bar.setWavelengthRange(minWavelength, maxWavelength);
 
-    QTEST(labels(bar), "labels");
+    SpectrumChecks::hasLabels<Bar, int>(bar);
 }
 
-void tst_WavelengthSpectrum::placesTheWavelengthsOverTheirLabels()
+void tst_WavelengthSpectrum::placesTheLabelsUnderTheirTicks()
 {
     Bar bar;
     bar.setWavelengthRange(400, 700); // 401 * 40 / 300 = 53, so fifties
@@ -461,23 +394,7 @@ void tst_WavelengthSpectrum::placesTheWavelengthsOverTheirLabels()
     const QList<int> ticks{ start,       start + 66,  start + 133, start + 200,
                             start + 267, start + 334, start + 401 };
 
-    const QImage image = picture(bar);
-    PaintRecorder paper(bar);
-
-    const int axis = bar.height() - 1 - labelHeight();
-    for (const int row : { axis, axis + 5 })
-        QCOMPARE(columnsOf(image, row), ticks);
-    QCOMPARE(columnsOf(image, axis + 6), QList<int>());
-    for (int i = 0; i < 6; ++i) {
-        const QString text = QString::number(400 + 50 * i);
-        const int width = metrics().horizontalAdvance(text);
-        const QPointF baseline = paper.find(text).baseline;
-        QVERIFY(qAbs(baseline.x() - (ticks.at(i) - width / 2)) < 1.0);
-        QVERIFY(qAbs(baseline.y() - (axis + 7 + metrics().ascent())) < 1.0);
-        QCOMPARE(paper.find(text).color.rgba(), ink);
-        QCOMPARE(paper.find(text).font.pointSize(), 10);
-        QCOMPARE(paper.find(text).font.family(), QStringLiteral("Calibri"));
-    }
+    SpectrumChecks::placesTheWavelengths(bar, ticks, bar.height() - 1 - labelHeight());
 }
 
 void tst_WavelengthSpectrum::shiftsTheLastLabel()
@@ -515,25 +432,10 @@ void tst_WavelengthSpectrum::keepsALabelThatReachesTheEdge()
 void tst_WavelengthSpectrum::placesThePowersBesideTheirTicks()
 {
     Bar bar; // two pixels a unit
-    const QRect outer(1, 1, bar.width() - 2, bar.height() - 2);
-    const int right = 1 + labelWidth("000");
+    bar.grab();
 
-    const QImage image = picture(bar);
-    PaintRecorder paper(bar);
-
-    QList<int> ticks;
-    for (int p = 100; p >= 0; p -= 10)
-        ticks << bar.spectrumRect().bottom() + 1 - 2 * p;
-    QCOMPARE(rowsOf(image, right - 5).mid(0, 11), ticks);
-    QCOMPARE(rowsOf(image, right - 1).mid(0, 11), ticks);
-    for (const int p : { 0, 10, 100 }) {
-        const QString text = QString::number(p);
-        const double end = paper.find(text).baseline.x() + metrics().horizontalAdvance(text);
-        QVERIFY(qAbs(end - (outer.left() + labelWidth("000") - 7)) < 1.0);
-        const int y = bar.spectrumRect().bottom() + 1 - 2 * p;
-        const int top = y - metrics().height() / 2;
-        QVERIFY(qAbs(paper.find(text).baseline.y() - (top + metrics().ascent())) < 1.0);
-    }
+    SpectrumChecks::placesThePowers(bar, bar.spectrumRect().bottom(), 1 + labelWidth("000"),
+                                    metrics().height() / 2);
 }
 
 void tst_WavelengthSpectrum::drawsTheAxes()
@@ -584,24 +486,8 @@ void tst_WavelengthSpectrum::paintsNothingWhereThereIsNoRoom()
 void tst_WavelengthSpectrum::drawsNothingBeforeTheFirstPaint()
 {
     WavelengthSpectrum bar(10);
-    QImage image(250, 250, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
 
-    bar.drawWavelengths(&painter);
-    bar.drawPowerLabels(&painter);
-    bar.drawWavelengthLabels(&painter);
-    painter.end();
-
-    QVERIFY(isPlain(image, white));
-    QCOMPARE(bar.calculateHorizontalGridLineDistance(), 10);
-    QCOMPARE(bar.calculateVerticalGridLineDistance(20), 10);
-
-    bar.grab();
-    bar.drawWavelengths(nullptr);
-    bar.drawPowerLabels(nullptr);
-    bar.drawWavelengthLabels(nullptr);
-    QVERIFY(!bar.spectrumRect().isEmpty());
+    SpectrumChecks::drawsNothingBeforeTheFirstPaint(bar);
 }
 
 void tst_WavelengthSpectrum::livesThroughAbsurdNumbers_data()
