@@ -40,6 +40,10 @@ const QVector<Page> &pages()
               "The two ends of a sweep. Drag a handle, turn the wheel on a slider of the "
               "first generation, or type a number and press Return."),
           buildRangedSliderPage },
+        { QStringLiteral("spectra"), QStringLiteral("Spectrum bars"),
+          QStringLiteral("Every column has the colour of its wavelength. The scales span what lies "
+                         "inside of the margin."),
+          buildSpectrumBarsPage },
         { QStringLiteral("numbers"), QStringLiteral("Numeric entry"),
           QStringLiteral("Type, or step the digit left of the cursor with the arrows. The number "
                          "beside a caption is the committed value; the field shows the edit."),

@@ -29,6 +29,7 @@ QWidget *buildAssemblyPage();
 QWidget *buildComboSliderPage();
 QWidget *buildRangedSliderPage();
 QWidget *buildChartPage();
+QWidget *buildSpectrumBarsPage();
 QWidget *buildNumberEntryPage();
 QWidget *buildButtonPage();
 QWidget *buildIndicatorPage();

@@ -77,7 +77,9 @@ inline QRgb gammaRamp(double wavelength)
 }
 
 /// The same on a chart from \a min to \a max nm: from the ends of the visible band it fades to white
-/// at the ends of the chart. \a alpha is limited to 1; an alpha below 0 gives an invalid colour.
+/// at the ends of the chart, and is white outside of it. \a alpha is limited to 1, and cut to a
+/// whole level of 255. A level below 0 gives an invalid colour, and so does a fade that reaches
+/// into infinity.
 inline QColor chartRamp(double wavelength, double min, double max, double alpha)
 {
     const double opacity = std::trunc(255.0 * std::min(alpha, 1.0));

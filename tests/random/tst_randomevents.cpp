@@ -40,6 +40,9 @@
 #include "Pelorin/spectral/Channel.h"
 #include "Pelorin/spectral/ChannelGroup.h"
 #include "Pelorin/spectral/ChannelSliders.h"
+#include "Pelorin/spectral/WavelengthSelector.h"
+#include "Pelorin/spectral/WavelengthSpectrum.h"
+#include "Pelorin/spectral/WavelengthSpectrumNG.h"
 #include "tests/support/RandomEvents.h"
 #include "tests/support/TestCase.h"
 
@@ -85,6 +88,17 @@ QWidget *filledComboSlider()
         control->addScale(scale);
     }
     return control;
+}
+
+/// All channels on, and one of them at each end.
+QWidget *filledSelector()
+{
+    auto *selector = new WavelengthSelector(10);
+    for (int i = 0; i < 8; ++i) {
+        selector->setChannel(i, 300.0 + 93.0 * i, 10 * i);
+        selector->enableChannel(i, true);
+    }
+    return selector;
 }
 
 /// Every widget of the library joins with a line.
@@ -138,6 +152,9 @@ const QVector<Subject> &subjects()
         { "Channel", [] { return new Channel(3); } },
         { "ChannelGroup", [] { return new ChannelGroup; } },
         { "ChannelSliders", [] { return new ChannelSliders(3); } },
+        { "WavelengthSelector", filledSelector },
+        { "WavelengthSpectrum", [] { return new WavelengthSpectrum(10); } },
+        { "WavelengthSpectrumNG", [] { return new WavelengthSpectrumNG(10); } },
     };
     return list;
 }
