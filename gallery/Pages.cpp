@@ -72,6 +72,11 @@ const QVector<Page> &pages()
           QStringLiteral("A spectrometer at 20 Hz, the band of a laser, and eight dyes of which it "
                          "excites a part. Drag over the plot to zoom in."),
           buildChartPage },
+        { QStringLiteral("channels"), QStringLiteral("Channel controls"),
+          QStringLiteral(
+              "The eight channels of a tunable light source in three views that are kept "
+              "in step. Drag a marker, type a number, or move a slider."),
+          buildChannelPage },
         { QStringLiteral("overlays"), QStringLiteral("Overlays"),
           QStringLiteral("What lies over the page of a module that is away, or that has something "
                          "to say."),

@@ -30,6 +30,7 @@ QWidget *buildComboSliderPage();
 QWidget *buildRangedSliderPage();
 QWidget *buildChartPage();
 QWidget *buildSpectrumBarsPage();
+QWidget *buildChannelPage();
 QWidget *buildNumberEntryPage();
 QWidget *buildButtonPage();
 QWidget *buildIndicatorPage();
