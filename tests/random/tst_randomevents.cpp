@@ -26,6 +26,11 @@
 #include "Pelorin/shell/QWidgetNG.h"
 #include "Pelorin/shell/SplashImage.h"
 #include "Pelorin/shell/TavrinMainWindow.h"
+#include "Pelorin/signalviews/PulsesView.h"
+#include "Pelorin/signalviews/QualityIndicator.h"
+#include "Pelorin/signalviews/SignalGraph.h"
+#include "Pelorin/signalviews/SubPulsesView.h"
+#include "Pelorin/signalviews/TriggerActionView.h"
 #include "Pelorin/sliders/ComboSlider.h"
 #include "Pelorin/sliders/ComboSliderScale.h"
 #include "Pelorin/sliders/ComboSliderUnit.h"
@@ -149,6 +154,11 @@ const QVector<Subject> &subjects()
           [] { return new ScaleSliderNG(Qt::Horizontal, ScaleSliderNG::ScaleLinear, nullptr); } },
         { "ScaleSliderNG, vertical steps",
           [] { return new ScaleSliderNG(Qt::Vertical, ScaleSliderNG::ScaleSqrtSteps, nullptr); } },
+        { "PulsesView", [] { return new PulsesView; } },
+        { "QualityIndicator", [] { return new QualityIndicator; } },
+        { "SignalGraph", [] { return new SignalGraph; } },
+        { "SubPulsesView", [] { return new SubPulsesView; } },
+        { "TriggerActionView", [] { return new TriggerActionView; } },
         { "Channel", [] { return new Channel(3); } },
         { "ChannelGroup", [] { return new ChannelGroup; } },
         { "ChannelSliders", [] { return new ChannelSliders(3); } },
@@ -189,6 +199,8 @@ void tst_RandomEvents::livesThroughNonsense()
     std::fprintf(stderr, "%s, seed %u\n", subjects().at(subject).name, seed);
     tolerateMessages(QtDebugMsg, QStringLiteral("Reset: "));
     tolerateMessages(QtDebugMsg, QStringLiteral("LineEditNumber::nudge"));
+    for (const char *start : { "MID LINE:", "X DENSITY:", "Y DENSITY:", "QPoint(" })
+        tolerateMessages(QtDebugMsg, QLatin1String(start));
     // of properties that are Qt's own
     tolerateMessages(QtWarningMsg, QStringLiteral("QComboBox::setMax"));
     tolerateMessages(QtDebugMsg, QStringLiteral("VerticalScaleSlider::priValueChanging "));
