@@ -40,6 +40,7 @@
 #include "Pelorin/spectral/Channel.h"
 #include "Pelorin/spectral/ChannelGroup.h"
 #include "Pelorin/spectral/ChannelSliders.h"
+#include "tests/spectral/ChartProbe.h"
 #include "tests/support/RandomEvents.h"
 #include "tests/support/TestCase.h"
 
@@ -87,6 +88,17 @@ QWidget *filledComboSlider()
     return control;
 }
 
+/// With two dyes, and without the dialog that its save button opens.
+QWidget *filledChart()
+{
+    auto *chart = new ChartProbe;
+    chart->addFluorophore(ChartProbe::dye(1));
+    chart->addFluorophore(ChartProbe::dye(2, 600.0));
+    chart->setFluorophoresVisible(true);
+    QObject::disconnect(chart->saveButton(), &QCheckBox::toggled, chart, nullptr);
+    return chart;
+}
+
 /// Every widget of the library joins with a line.
 const QVector<Subject> &subjects()
 {
@@ -126,6 +138,7 @@ const QVector<Subject> &subjects()
         { "RangedInputSlider", [] { return new RangedInputSlider(10); } },
         { "RangedInputSliderNG", [] { return new RangedInputSliderNG(10); } },
         { "RangedScaleSlider", [] { return new RangedScaleSlider; } },
+        { "WavelengthChart", filledChart },
         { "VerticalSlider",
           [] { return new VerticalSlider(ScaleSliderNG::ScaleLinear, true, nullptr); } },
         { "VerticalScaleSlider",
