@@ -240,26 +240,7 @@ void WavelengthChart::createFilter()
     m_fluorophoreAxis->setRange(0.0, 100.0);
 }
 
-void WavelengthChart::setChartSaveFilterType(QString filter)
-{
-    m_chartSaveFilterType = filter;
-}
-
-void WavelengthChart::setChartSaveFoldername(QString folder)
-{
-    m_chartSaveFoldername = folder;
-}
-
 void WavelengthChart::priZoomReset()
 {
     m_chart->zoomReset();
 }
-
-void WavelengthChart::priCoordTimeout()
-{
-    m_coordText1->hide();
-    m_coordText2->hide();
-    m_coordText3->hide();
-}
-
-void WavelengthChart::priSaveChartClicked(bool) {}

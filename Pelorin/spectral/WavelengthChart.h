@@ -17,8 +17,10 @@
 
 #include <functional>
 
+class ChartTable;
 class FluorophoreTagName;
 class QCheckBox;
+class QDir;
 class QGraphicsPixmapItem;
 class QGraphicsProxyWidget;
 class QGraphicsTextItem;
@@ -100,6 +102,19 @@ public:
     static double getExcitationScale(double wavelength, double bandwidth,
                                      const QVector<QPointF> &excitation);
 
+    /// All curves as a table, hidden ones too: a line of quoted titles, then a line of numbers with two
+    /// decimals for each wavelength, parted by \a separator. The wavelengths are the whole ones of the
+    /// range and those between at which a curve has a point. Other curves are interpolated there, and
+    /// are 0 before their first and after their last point. An emission is as the chart shows it.
+    ///
+    /// A name goes into the titles as it is, whatever it holds. A range of more than 100,000 nm is cut
+    /// off there.
+    QString generateCSVContent(QChar separator) const;
+
+    /// Whether \a a and \a b differ by no more than \a ulp steps of rounding of their sum, or by less
+    /// than the smallest normal number.
+    static bool almostEqual(double a, double b, int ulp);
+
 Q_SIGNALS:
     void sigSpectrumPowerRangeChanged(double min, double max);
     void sigWavelengthRangeChanged(double min, double max);
@@ -174,6 +189,15 @@ public Q_SLOTS:
     void setChartSaveFoldername(QString folder);
 
 protected:
+    /// Beside the pointer the chart tells wavelength, power and setpoint there, or what is known of the
+    /// dye whose tag lies there. The texts vanish five seconds after the last move, or as soon as the
+    /// pointer has left the plot.
+    void mouseMoveEvent(QMouseEvent *event) override;
+    /// The left button has dragged a range to zoom into; the right one goes back to the whole range.
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    /// Hides wavelength and power. The setpoint stays until its time is over.
+    void focusOutEvent(QFocusEvent *event) override;
+
     void generateSpectrum();
     void refreshFilterIllustration();
     void generateBackBrush();
@@ -219,6 +243,17 @@ private:
                      const QPointer<QtCharts::QAreaSeries> &area);
     void applyVisibility(const tFluorophoreViewData &view, int parts);
     void emitVisibilityState();
+
+    void showReadout(QPoint pointer);
+    QString descriptionAt(QPoint pointer) const;
+    void showTagReadout(QPoint pointer, const QString &description);
+    void showCoordinates(QPoint pointer);
+    void placeReadout(QPoint pointer, const QVector<QGraphicsTextItem *> &lines);
+
+    ChartTable makeTable() const;
+    bool provideDirectory(const QDir &directory);
+    void saveImage(const QPixmap &picture, const QString &fileName);
+    void saveData(const QString &fileName);
 
     QtCharts::QChart *m_chart;
     QPixmap m_backPixmap;

@@ -1,10 +1,10 @@
 #include "Pelorin/theme/Pelorin.h"
 #include "benchmarks/support/Comparison.h"
+#include "benchmarks/support/Memory.h"
 #include "gallery/GalleryWindow.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QLabel>
 #include <QProcess>
 #include <QTimer>
@@ -19,19 +19,6 @@ namespace {
 const char *const gallery = "Gallery";
 const char *const galleryWithoutTheme = "Gallery without the theme";
 const char *const bareWindow = "Qt window with a label";
-
-/// Of this process; 0 where the system does not tell.
-long residentKiB()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmRSS:"))
-            return line.simplified().split(' ').value(1).toLong();
-    }
-    return 0;
-}
 
 /// Tells when its window has been painted for the first time.
 class FirstFrame : public QObject
@@ -77,7 +64,7 @@ int start(int argc, char **argv)
     const QApplication app(argc, argv);
     const std::unique_ptr<QWidget> window = makeWindow(QString::fromLocal8Bit(argv[2]));
     const FirstFrame firstFrame(*window, [] {
-        std::printf("%ld\n", residentKiB());
+        std::printf("%ld\n", memoryKiB("VmRSS:"));
         std::fflush(stdout);
         QApplication::quit();
     });
