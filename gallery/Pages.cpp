@@ -77,6 +77,11 @@ const QVector<Page> &pages()
               "The eight channels of a tunable light source in three views that are kept "
               "in step. Drag a marker, type a number, or move a slider."),
           buildChannelPage },
+        { QStringLiteral("signals"), QStringLiteral("Signal views"),
+          QStringLiteral(
+              "Drawings that explain a laser's timing, a block of samples as a curve, and "
+              "a bar of lamps for a quality."),
+          buildSignalPage },
         { QStringLiteral("overlays"), QStringLiteral("Overlays"),
           QStringLiteral("What lies over the page of a module that is away, or that has something "
                          "to say."),

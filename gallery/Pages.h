@@ -31,6 +31,7 @@ QWidget *buildRangedSliderPage();
 QWidget *buildChartPage();
 QWidget *buildSpectrumBarsPage();
 QWidget *buildChannelPage();
+QWidget *buildSignalPage();
 QWidget *buildNumberEntryPage();
 QWidget *buildButtonPage();
 QWidget *buildIndicatorPage();
