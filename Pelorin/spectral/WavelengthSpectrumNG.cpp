@@ -91,8 +91,7 @@ void WavelengthSpectrumNG::drawWavelengthLabels(QPainter *painter) const
 {
     const double min = m_minWavelength;
     const double max = m_maxWavelength;
-    // what is cut to nothing from below is 0, not -0
-    const WavelengthSpectrumScale scale{ min, max, std::trunc(min) + 0.0, std::trunc(max) + 0.0,
+    const WavelengthSpectrumScale scale{ min, max, std::trunc(min), std::trunc(max),
                                          wavelengthDistance() };
     if (painter)
         m_layout->drawWavelengthScale(*painter, scale);
