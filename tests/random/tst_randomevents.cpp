@@ -1,3 +1,4 @@
+#include "Pelorin/containers/stackWidget.h"
 #include "Pelorin/controls/Button.h"
 #include "Pelorin/controls/ComboBox.h"
 #include "Pelorin/controls/ComboBoxNG.h"
@@ -120,6 +121,14 @@ QWidget *filledChart()
     return chart;
 }
 
+QWidget *filledStack()
+{
+    auto *stack = new stackWidget;
+    for (int i = 0; i < 3; ++i)
+        stack->addWidget(new QWidget);
+    return stack;
+}
+
 /// Every widget of the library joins with a line.
 const QVector<Subject> &subjects()
 {
@@ -169,6 +178,7 @@ const QVector<Subject> &subjects()
           [] { return new ScaleSliderNG(Qt::Horizontal, ScaleSliderNG::ScaleLinear, nullptr); } },
         { "ScaleSliderNG, vertical steps",
           [] { return new ScaleSliderNG(Qt::Vertical, ScaleSliderNG::ScaleSqrtSteps, nullptr); } },
+        { "stackWidget", filledStack },
         { "PulsesView", [] { return new PulsesView; } },
         { "QualityIndicator", [] { return new QualityIndicator; } },
         { "SignalGraph", [] { return new SignalGraph; } },
