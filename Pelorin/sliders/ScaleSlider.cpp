@@ -67,7 +67,7 @@ double ScaleSlider::accordingValue(int x) const
 
 void ScaleSlider::setSideMargins(int pixels)
 {
-    m_sideMargins = pixels;
+    m_sideMargins = qBound(-QWIDGETSIZE_MAX, pixels, QWIDGETSIZE_MAX);
     updateScale();
 }
 

@@ -57,7 +57,8 @@ public:
     /// limited to the range.
     double accordingValue(int x) const;
 
-    /// Keeps \a pixels free at both ends. The handle follows when its value is set the next time.
+    /// Keeps \a pixels free at both ends, at most as many as a widget can have. The handle follows
+    /// when its value is set the next time.
     void setSideMargins(int pixels);
 
     /// Kept for the caller; it changes nothing here.

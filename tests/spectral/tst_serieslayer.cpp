@@ -172,8 +172,11 @@ void tst_SeriesLayer::followsEachChange_data()
         << Action([](ChartProbe &chart) { chart.emission()->setVisible(false); });
     QTest::newRow("points from outside")
         << Action([](ChartProbe &chart) { chart.emission()->upperSeries()->append(790.0, 90.0); });
-    QTest::newRow("removed from outside")
-        << Action([](ChartProbe &chart) { chart.chart()->removeSeries(chart.emission()); });
+    QTest::newRow("removed from outside") << Action([](ChartProbe &chart) {
+        QtCharts::QAreaSeries *const area = chart.emission();
+        chart.chart()->removeSeries(area);
+        area->setParent(&chart); // it belongs to whoever has removed it
+    });
     QTest::newRow("fill from outside")
         << Action([](ChartProbe &chart) { chart.emission()->setColor(Qt::white); });
 }
