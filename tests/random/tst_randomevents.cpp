@@ -15,6 +15,7 @@
 #include "Pelorin/controls/Selector.h"
 #include "Pelorin/controls/ShowHideButton.h"
 #include "Pelorin/controls/VerticalLabel.h"
+#include "Pelorin/remote/RemoteControl.h"
 #include "Pelorin/shell/CenterTabWidget.h"
 #include "Pelorin/shell/ColHeader.h"
 #include "Pelorin/shell/ContainerWidget.h"
@@ -139,6 +140,7 @@ const QVector<Subject> &subjects()
         { "Selector", [] { return withItems(new Selector(QStringLiteral("Settings"))); } },
         { "ShowHideButton", [] { return new ShowHideButton; } },
         { "VerticalLabel", [] { return new VerticalLabel(QStringLiteral("Power")); } },
+        { "RemoteControl", [] { return new RemoteControl; } },
         { "CenterTabWidget", [] { return new CenterTabWidget; } },
         { "ColHeader", [] { return new ColHeader; } },
         { "DockWidget",
