@@ -64,12 +64,12 @@ inline QRgb shownColor(const IndicatorButton &button)
 inline QString look(const IndicatorButton &button)
 {
     const bool enabled = button.button()->isEnabled();
-    QString lamp = button.isActive() ? QStringLiteral("on") : QStringLiteral("off");
-    if (blinks(button))
-        lamp = button.isActive() ? QStringLiteral("on and blinking") : QStringLiteral("blinking");
-    const QRgb steady = button.isActive() ? button.onColor() : button.offColor();
-    if (lampOf(button).color() != steady)
-        lamp += QStringLiteral(" in the wrong colour");
+    const Indicator::Color color = lampOf(button).color();
+    QString lamp = QStringLiteral("in the wrong colour");
+    if (color == button.onColor())
+        lamp = blinks(button) ? QStringLiteral("on and blinking") : QStringLiteral("on");
+    else if (color == button.offColor())
+        lamp = blinks(button) ? QStringLiteral("blinking") : QStringLiteral("off");
     if (lampOf(button).isEnabled() != enabled)
         lamp += QStringLiteral(" without its button");
     if (blinks(button) && timerOf(button).interval() != 500)

@@ -1,5 +1,6 @@
 #include "Pelorin/remote/RemoteControl.h"
 #include "tests/remote/PanelProbe.h"
+#include "tests/remote/SignalWatcher.h"
 #include "tests/support/MetaMethods.h"
 #include "tests/support/SignalRecorder.h"
 #include "tests/support/TestCase.h"
@@ -48,23 +49,6 @@ QString levelSignal(const LevelPath &path, int level)
 {
     return QStringLiteral("%1(%2)").arg(QLatin1String(path.signal)).arg(level);
 }
-
-/// A receiver that takes the panel away at the first signal.
-class Deleter : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Deleter(QWidget *panel)
-        : m_panel(panel)
-    {}
-
-public Q_SLOTS:
-    void deleteIt() { delete m_panel; }
-
-private:
-    QPointer<QWidget> m_panel;
-};
 
 } // namespace
 
@@ -425,24 +409,25 @@ void tst_RemoteControl::showsTheOldLevelDuringTheSignal()
 
 void tst_RemoteControl::livesThroughItsDeletionInASlot_data()
 {
-    QTest::addColumn<QByteArray>("signal");
     QTest::addColumn<int>("way");
+    QTest::addColumn<int>("signalsBefore");
 
-    QTest::newRow("first of a report") << QByteArray("emissionChangedByLS(bool)") << 0;
-    QTest::newRow("second of a report") << QByteArray("emissionStateUpdated(bool)") << 0;
-    QTest::newRow("first of a partial report") << QByteArray("emissionChangedByLS(bool)") << 1;
-    QTest::newRow("second of a partial report") << QByteArray("emissionStateUpdated(bool)") << 1;
-    QTest::newRow("first of a request") << QByteArray("emissionChangedByRC(bool)") << 2;
-    QTest::newRow("second of a request") << QByteArray("emissionChanged(bool)") << 2;
-    QTest::newRow("first of a press") << QByteArray("emissionChanged(bool)") << 3;
-    QTest::newRow("second of a press") << QByteArray("emissionChangedByRC(bool)") << 3;
-    QTest::newRow("level") << QByteArray("powerChangedByLS(ushort)") << 4;
+    QTest::newRow("first of a report") << 0 << 0;
+    QTest::newRow("second of a report") << 0 << 1;
+    QTest::newRow("first of a partial report") << 1 << 0;
+    QTest::newRow("second of a partial report") << 1 << 1;
+    QTest::newRow("first of a request") << 2 << 0;
+    QTest::newRow("second of a request") << 2 << 1;
+    QTest::newRow("first of a press") << 3 << 0;
+    QTest::newRow("second of a press") << 3 << 1;
+    QTest::newRow("third of a press") << 3 << 2;
+    QTest::newRow("level") << 4 << 0;
 }
 
 void tst_RemoteControl::livesThroughItsDeletionInASlot()
 {
-    QFETCH(QByteArray, signal);
     QFETCH(int, way);
+    QFETCH(int, signalsBefore);
     const std::function<void(RemoteControl &)> ways[] = {
         [](RemoteControl &panel) { panel.setEmissionLS(true); },
         [](RemoteControl &panel) { panel.setEmissionPartialLS(true, true); },
@@ -451,12 +436,16 @@ void tst_RemoteControl::livesThroughItsDeletionInASlot()
         [](RemoteControl &panel) { panel.setPowerLevelLS(7); },
     };
     const QPointer<RemoteControl> panel(new RemoteControl);
-    const Deleter deleter(panel);
-    QVERIFY(connect(panel, QByteArray("2" + signal).constData(), &deleter, SLOT(deleteIt())));
+    int came = 0;
+    const SignalWatcher watcher(*panel, [&] {
+        if (came++ == signalsBefore)
+            delete panel;
+    });
 
     ways[way](*panel);
 
     QVERIFY(panel.isNull());
+    QCOMPARE(came, signalsBefore + 1);
 }
 
 PELORIN_TEST_MAIN(tst_RemoteControl)
