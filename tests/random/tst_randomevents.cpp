@@ -15,6 +15,9 @@
 #include "Pelorin/controls/Selector.h"
 #include "Pelorin/controls/ShowHideButton.h"
 #include "Pelorin/controls/VerticalLabel.h"
+#include "Pelorin/remote/MarquelRemoteControl.h"
+#include "Pelorin/remote/MarquelXRemoteControl.h"
+#include "Pelorin/remote/OstrelRemoteControl.h"
 #include "Pelorin/remote/RemoteControl.h"
 #include "Pelorin/shell/CenterTabWidget.h"
 #include "Pelorin/shell/ColHeader.h"
@@ -50,6 +53,7 @@
 #include "Pelorin/spectral/WavelengthSpectrum.h"
 #include "Pelorin/spectral/WavelengthSpectrumNG.h"
 #include "tests/spectral/ChartProbe.h"
+#include "tests/support/ModalHand.h"
 #include "tests/support/RandomEvents.h"
 #include "tests/support/TestCase.h"
 
@@ -140,6 +144,9 @@ const QVector<Subject> &subjects()
         { "Selector", [] { return withItems(new Selector(QStringLiteral("Settings"))); } },
         { "ShowHideButton", [] { return new ShowHideButton; } },
         { "VerticalLabel", [] { return new VerticalLabel(QStringLiteral("Power")); } },
+        { "MarquelRemoteControl", [] { return new MarquelRemoteControl; } },
+        { "MarquelXRemoteControl", [] { return new MarquelXRemoteControl; } },
+        { "OstrelRemoteControl", [] { return new OstrelRemoteControl; } },
         { "RemoteControl", [] { return new RemoteControl; } },
         { "CenterTabWidget", [] { return new CenterTabWidget; } },
         { "ColHeader", [] { return new ColHeader; } },
@@ -223,6 +230,7 @@ void tst_RandomEvents::livesThroughNonsense()
     }
     const std::unique_ptr<QWidget> widget(subjects().at(subject).make());
     widget->show();
+    const ModalHand hand; // says no to every question
     RandomEvents events(widget.get(), seed);
 
     for (int i = 0; i < 1500; ++i) {
