@@ -416,6 +416,7 @@ void tst_MarquelRemoteControl::keepsEveryDialogAsAChild()
 
         QCOMPARE(panel.findChildren<QDialog *>().size(), i);
         QVERIFY(panel.findChildren<QDialog *>().last()->isHidden());
+        QVERIFY(panel.findChildren<QDialog *>().last()->isModal());
     }
     QCOMPARE(hand.count(), 3);
 }
