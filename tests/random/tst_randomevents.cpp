@@ -53,7 +53,7 @@
 #include "Pelorin/spectral/WavelengthSpectrum.h"
 #include "Pelorin/spectral/WavelengthSpectrumNG.h"
 #include "tests/spectral/ChartProbe.h"
-#include "tests/support/ModalHand.h"
+#include "tests/support/DialogHand.h"
 #include "tests/support/RandomEvents.h"
 #include "tests/support/TestCase.h"
 
@@ -230,7 +230,7 @@ void tst_RandomEvents::livesThroughNonsense()
     }
     const std::unique_ptr<QWidget> widget(subjects().at(subject).make());
     widget->show();
-    const ModalHand hand; // says no to every question
+    const DialogHand hand; // says no to every question
     RandomEvents events(widget.get(), seed);
 
     for (int i = 0; i < 1500; ++i) {

@@ -101,6 +101,60 @@ void reportsEveryPress(bool outputHidden, const QStringList &names,
     }
 }
 
+/// What laserOnClicked() makes of both its values in \a state.
+template<class Panel>
+void passesOnLaserOn(bool outputHidden, int state, const QString &signal)
+{
+    Panel panel;
+    panel.enableOutEnableButton(!outputHidden);
+    panel.slotFSMStateChanged(uchar(state));
+    SignalRecorder recorder(&panel);
+
+    panel.laserOnClicked(true);
+    panel.laserOnClicked(false);
+
+    QCOMPARE(recorder.taken(), QStringList({ signal + QStringLiteral("(true)"),
+                                             signal + QStringLiteral("(false)") }));
+}
+
+/// Neither a hidden panel nor a hidden page makes the output button one that was hidden.
+template<class Panel>
+void takesNoOtherHiding(const QString &signal)
+{
+    QWidget page;
+    auto *panel = new Panel(&page);
+    panel->slotFSMStateChanged(4);
+    page.show();
+    page.hide();
+    panel->hide();
+    SignalRecorder recorder(panel);
+
+    panel->laserOnClicked(true);
+
+    QCOMPARE(recorder.taken(), QStringList(signal + QStringLiteral("(true)")));
+}
+
+/// A hidden output button still follows the states.
+template<class Panel>
+void showsAndHidesTheOutput()
+{
+    Panel panel;
+    panel.show();
+    const IndicatorButton &output = *PanelProbe::find(panel, "Output");
+    SignalRecorder recorder(&panel);
+
+    panel.enableOutEnableButton(false);
+    QVERIFY(output.isHidden());
+    QVERIFY(!output.button()->isEnabled());
+
+    panel.slotFSMStateChanged(6);
+    QVERIFY(output.isHidden());
+    panel.enableOutEnableButton(true);
+    QVERIFY(output.isVisible());
+    QVERIFY(output.button()->isEnabled());
+    QCOMPARE(recorder.taken(), QStringList(signalText("sigEmissionStateChanged", true)));
+}
+
 } // namespace StateChecks
 
 #endif

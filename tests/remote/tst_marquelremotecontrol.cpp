@@ -2,13 +2,14 @@
 #include "Pelorin/remote/MarquelRemoteControl.h"
 #include "tests/remote/PanelProbe.h"
 #include "tests/remote/StoreChecks.h"
+#include "tests/support/DialogHand.h"
 #include "tests/support/MetaMethods.h"
-#include "tests/support/ModalHand.h"
 #include "tests/support/SignalRecorder.h"
 #include "tests/support/TestCase.h"
 #include "tests/support/TextList.h"
 
 #include <QBoxLayout>
+#include <QDialog>
 #include <QLabel>
 
 using namespace PanelProbe;
@@ -252,7 +253,7 @@ void tst_MarquelRemoteControl::asksNothingWithoutTheWarning()
     Panel panel;
     panel.slotSetNoHarmonicWavelengthWarning(true);
     panel.slotSetNoHarmonicWavelengthWarning(false);
-    const ModalHand hand;
+    const DialogHand hand;
     SignalRecorder recorder(&panel);
 
     press(emissionButton(panel));
@@ -260,7 +261,7 @@ void tst_MarquelRemoteControl::asksNothingWithoutTheWarning()
 
     QCOMPARE(recorder.taken(),
              list({ "sigWriteEmissionState(true)", "sigWriteEmissionState(true)" }));
-    QCOMPARE(hand.count(), 0);
+    QCOMPARE(hand.problems(), QStringList());
     QVERIFY(panel.findChildren<QDialog *>().isEmpty());
 }
 
@@ -269,7 +270,7 @@ void tst_MarquelRemoteControl::asksNothingWhenItIsSwitchedOff()
     Panel panel;
     panel.slotSetNoHarmonicWavelengthWarning(true);
     panel.slotEmissionChanged(true);
-    const ModalHand hand;
+    const DialogHand hand;
     SignalRecorder recorder(&panel);
 
     press(emissionButton(panel));
@@ -277,6 +278,7 @@ void tst_MarquelRemoteControl::asksNothingWhenItIsSwitchedOff()
 
     QCOMPARE(recorder.taken(),
              list({ "sigWriteEmissionState(false)", "sigWriteEmissionState(false)" }));
+    QCOMPARE(hand.problems(), QStringList());
     QVERIFY(panel.findChildren<QDialog *>().isEmpty());
 }
 
@@ -310,14 +312,16 @@ void tst_MarquelRemoteControl::waitsForTheAnswer()
     panel.slotSetNoHarmonicWavelengthWarning(true);
     SignalRecorder recorder(&panel);
     QStringList sentWhileItAsked{ QStringLiteral("no dialog") };
-    const ModalHand hand([&](QDialog &dialog) {
-        sentWhileItAsked = recorder.entries();
-        each.give(dialog);
-    });
+    DialogHand hand;
+    for (int i = 0; i < 2; ++i) {
+        hand.serve([&](QDialog &dialog) {
+            sentWhileItAsked = recorder.entries();
+            each.give(dialog);
+        });
+    }
 
     press(emissionButton(panel));
-    QCOMPARE(hand.count(), 1);
-    QCOMPARE(hand.leftOpen(), 0);
+    QCOMPARE(hand.shown().size(), 1);
     QCOMPARE(sentWhileItAsked, QStringList());
     QCOMPARE(recorder.taken(),
              each.accepted ? list({ "sigWriteEmissionState(true)" }) : QStringList());
@@ -326,10 +330,10 @@ void tst_MarquelRemoteControl::waitsForTheAnswer()
 
     press(emissionButton(panel)); // the button has turned round, whatever the answer was
     QCOMPARE(recorder.taken(), list({ "sigWriteEmissionState(false)" }));
-    QCOMPARE(hand.count(), 1);
+    QCOMPARE(hand.shown().size(), 1);
 
     press(emissionButton(panel));
-    QCOMPARE(hand.count(), 2);
+    QCOMPARE(hand.problems(), QStringList());
     QCOMPARE(recorder.taken(),
              each.accepted ? list({ "sigWriteEmissionState(true)" }) : QStringList());
 }
@@ -339,15 +343,16 @@ void tst_MarquelRemoteControl::warnsAtACallToo()
     Panel panel;
     panel.slotSetNoHarmonicWavelengthWarning(true);
     SignalRecorder recorder(&panel);
-    int accepted = 0;
-    const ModalHand hand([&](QDialog &dialog) { dialog.done(accepted++); });
+    DialogHand hand;
+    hand.serve([](QDialog &dialog) { dialog.reject(); });
+    hand.serve([](QDialog &dialog) { dialog.accept(); });
 
     panel.slotWriteEmissionState(true);
     QCOMPARE(recorder.taken(), QStringList());
 
     panel.slotWriteEmissionState(true);
     QCOMPARE(recorder.taken(), list({ "sigWriteEmissionState(true)" }));
-    QCOMPARE(hand.count(), 2);
+    QCOMPARE(hand.problems(), QStringList());
 }
 
 void tst_MarquelRemoteControl::buildsTheWarning()
@@ -392,25 +397,25 @@ void tst_MarquelRemoteControl::buildsTheWarning()
         }
         QVERIFY(answer(dialog, "Cancel")->isDefault());
     };
-    bool looked = false;
-    const ModalHand hand([&](QDialog &dialog) {
+    DialogHand hand;
+    hand.serve([&](QDialog &dialog) {
         look(dialog);
-        looked = true;
         dialog.reject();
     });
 
     panel.slotWriteEmissionState(true);
 
-    QVERIFY(looked);
+    QCOMPARE(hand.problems(), QStringList());
 }
 
 void tst_MarquelRemoteControl::keepsEveryDialogAsAChild()
 {
     Panel panel;
     panel.slotSetNoHarmonicWavelengthWarning(true);
-    const ModalHand hand([](QDialog &dialog) { dialog.accept(); });
+    DialogHand hand;
 
     for (int i = 1; i <= 3; ++i) {
+        hand.serve([](QDialog &dialog) { dialog.accept(); });
         panel.slotWriteEmissionState(true);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
@@ -418,7 +423,7 @@ void tst_MarquelRemoteControl::keepsEveryDialogAsAChild()
         QVERIFY(panel.findChildren<QDialog *>().last()->isHidden());
         QVERIFY(panel.findChildren<QDialog *>().last()->isModal());
     }
-    QCOMPARE(hand.count(), 3);
+    QCOMPARE(hand.problems(), QStringList());
 }
 
 void tst_MarquelRemoteControl::takesReportsWhileItAsks()
@@ -426,13 +431,15 @@ void tst_MarquelRemoteControl::takesReportsWhileItAsks()
     Panel panel;
     panel.slotSetNoHarmonicWavelengthWarning(true);
     SignalRecorder recorder(&panel);
-    const ModalHand hand([&](QDialog &dialog) {
+    DialogHand hand;
+    hand.serve([&](QDialog &dialog) {
         panel.slotEmissionChanged(true); // switched on by somebody else
         dialog.reject();
     });
 
     press(emissionButton(panel));
 
+    QCOMPARE(hand.problems(), QStringList());
     QCOMPARE(recorder.taken(), list({ "sigEmissionStateChanged(true)" }));
     QVERIFY(panel.getEmission());
     QCOMPARE(looks(panel), list({ "enabled on" }));
@@ -452,14 +459,15 @@ void tst_MarquelRemoteControl::dropsTheRequestWithThePanel()
     const QPointer<Panel> panel(new Panel);
     panel->slotSetNoHarmonicWavelengthWarning(true);
     SignalRecorder recorder(panel);
-    const ModalHand hand([panel](QDialog &) { delete panel; });
+    DialogHand hand;
+    hand.serve([panel](QDialog &) { delete panel; });
 
     if (pressed)
         press(emissionButton(*panel));
     else
         panel->slotWriteEmissionState(true);
 
-    QCOMPARE(hand.count(), 1);
+    QCOMPARE(hand.problems(), QStringList());
     QVERIFY(panel.isNull());
     QCOMPARE(recorder.taken(), QStringList());
 }

@@ -8,8 +8,6 @@
 #include "tests/support/TestCase.h"
 #include "tests/support/TextList.h"
 
-#include <limits>
-
 using namespace PanelProbe;
 
 namespace {
@@ -213,50 +211,18 @@ void tst_OstrelRemoteControl::passesOnWhatLaserOnAsksFor()
     QFETCH(bool, hidden);
     QFETCH(int, state);
     QFETCH(QString, signal);
-    Panel panel;
-    panel.enableOutEnableButton(!hidden);
-    panel.slotFSMStateChanged(uchar(state));
-    SignalRecorder recorder(&panel);
 
-    panel.laserOnClicked(true);
-    panel.laserOnClicked(false);
-
-    QCOMPARE(recorder.taken(), QStringList({ signal + QStringLiteral("(true)"),
-                                             signal + QStringLiteral("(false)") }));
+    StateChecks::passesOnLaserOn<Panel>(hidden, state, signal);
 }
 
 void tst_OstrelRemoteControl::takesNoOtherHidingForTheButtons()
 {
-    QWidget page;
-    auto *panel = new Panel(&page);
-    panel->slotFSMStateChanged(4);
-    page.show();
-    page.hide();
-    panel->hide();
-    SignalRecorder recorder(panel);
-
-    panel->laserOnClicked(true);
-
-    QCOMPARE(recorder.taken(), list({ "outEnableChanged(true)" }));
+    StateChecks::takesNoOtherHiding<Panel>(QStringLiteral("outEnableChanged"));
 }
 
 void tst_OstrelRemoteControl::showsAndHidesTheOutputButton()
 {
-    Panel panel;
-    panel.show();
-    const IndicatorButton &output = *find(panel, "Output");
-    SignalRecorder recorder(&panel);
-
-    panel.enableOutEnableButton(false);
-    QVERIFY(output.isHidden());
-    QVERIFY(!output.button()->isEnabled());
-
-    panel.slotFSMStateChanged(6);
-    QVERIFY(output.isHidden());
-    panel.enableOutEnableButton(true);
-    QVERIFY(output.isVisible());
-    QVERIFY(output.button()->isEnabled());
-    QCOMPARE(recorder.taken(), list({ "sigEmissionStateChanged(true)" }));
+    StateChecks::showsAndHidesTheOutput<Panel>();
 }
 
 void tst_OstrelRemoteControl::turnsRoundAtEveryPress()
