@@ -82,6 +82,10 @@ const QVector<Page> &pages()
               "Drawings that explain a laser's timing, a block of samples as a curve, and "
               "a bar of lamps for a quality."),
           buildSignalPage },
+        { QStringLiteral("remote"), QStringLiteral("Remote control panels"),
+          QStringLiteral("One laser and four panels. A press is a request and changes no lamp; the "
+                         "lamps follow when the laser reports its state."),
+          buildRemotePage },
         { QStringLiteral("overlays"), QStringLiteral("Overlays"),
           QStringLiteral("What lies over the page of a module that is away, or that has something "
                          "to say."),

@@ -38,6 +38,7 @@ QWidget *buildIndicatorPage();
 QWidget *buildLabelPage();
 QWidget *buildListPage();
 QWidget *buildFirstEntryPage();
+QWidget *buildRemotePage();
 QWidget *buildOverlayPage();
 QWidget *buildFlowPage();
 QWidget *buildThemePage();

@@ -16,6 +16,10 @@
 #include "Pelorin/controls/Selector.h"
 #include "Pelorin/controls/ShowHideButton.h"
 #include "Pelorin/controls/VerticalLabel.h"
+#include "Pelorin/remote/MarquelRemoteControl.h"
+#include "Pelorin/remote/MarquelXRemoteControl.h"
+#include "Pelorin/remote/OstrelRemoteControl.h"
+#include "Pelorin/remote/RemoteControl.h"
 #include "Pelorin/shell/CenterTabWidget.h"
 #include "Pelorin/shell/ColHeader.h"
 #include "Pelorin/shell/ContainerWidget.h"
@@ -50,6 +54,7 @@
 #include "Pelorin/spectral/WavelengthSpectrum.h"
 #include "Pelorin/spectral/WavelengthSpectrumNG.h"
 #include "tests/spectral/ChartProbe.h"
+#include "tests/support/DialogHand.h"
 #include "tests/support/RandomEvents.h"
 #include "tests/support/TestCase.h"
 
@@ -148,6 +153,10 @@ const QVector<Subject> &subjects()
         { "Selector", [] { return withItems(new Selector(QStringLiteral("Settings"))); } },
         { "ShowHideButton", [] { return new ShowHideButton; } },
         { "VerticalLabel", [] { return new VerticalLabel(QStringLiteral("Power")); } },
+        { "MarquelRemoteControl", [] { return new MarquelRemoteControl; } },
+        { "MarquelXRemoteControl", [] { return new MarquelXRemoteControl; } },
+        { "OstrelRemoteControl", [] { return new OstrelRemoteControl; } },
+        { "RemoteControl", [] { return new RemoteControl; } },
         { "CenterTabWidget", [] { return new CenterTabWidget; } },
         { "ColHeader", [] { return new ColHeader; } },
         { "DockWidget",
@@ -231,6 +240,7 @@ void tst_RandomEvents::livesThroughNonsense()
     }
     const std::unique_ptr<QWidget> widget(subjects().at(subject).make());
     widget->show();
+    const DialogHand hand; // says no to every question
     RandomEvents events(widget.get(), seed);
 
     for (int i = 0; i < 1500; ++i) {

@@ -68,6 +68,18 @@ void DialogHand::answer(QMessageBox::StandardButton answer)
     };
 }
 
+void DialogHand::serve(const std::function<void(QDialog &)> &act)
+{
+    m_actions << [this, act](QWidget &widget) {
+        auto *const dialog = qobject_cast<QDialog *>(&widget);
+        if (!dialog)
+            return false;
+        m_shown << dialog->windowTitle();
+        act(*dialog);
+        return true;
+    };
+}
+
 QStringList DialogHand::problems() const
 {
     QStringList result = m_problems;

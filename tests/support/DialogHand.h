@@ -9,6 +9,7 @@
 
 #include <functional>
 
+class QDialog;
 class QFileDialog;
 
 /// A hand that serves modal dialogs while the code under test waits for them. It is told beforehand
@@ -28,6 +29,9 @@ public:
 
     /// A message box is to come, which is answered with \a answer.
     void answer(QMessageBox::StandardButton answer);
+
+    /// Any dialog is to come, which \a act answers.
+    void serve(const std::function<void(QDialog &)> &act);
 
     /// What the dialogs said, in order: title, text and buttons.
     QStringList shown() const { return m_shown; }

@@ -28,6 +28,7 @@ bool isPlainType(int type)
     case QMetaType::Bool:
     case QMetaType::Int:
     case QMetaType::UInt:
+    case QMetaType::UShort:
     case QMetaType::UChar:
     case QMetaType::Double:
     case QMetaType::QString:
@@ -142,6 +143,8 @@ QVariant RandomEvents::value(int type)
         return integer();
     case QMetaType::UInt:
         return uint(integer());
+    case QMetaType::UShort:
+        return QVariant::fromValue(ushort(m_random.bounded(65536)));
     case QMetaType::UChar:
         return QVariant::fromValue(uchar(m_random.bounded(256)));
     case QMetaType::Double:

@@ -10,6 +10,8 @@ QString argumentText(int type, const void *argument)
     switch (type) {
     case QMetaType::Double:
         return QString::number(*static_cast<const double *>(argument), 'g', 12);
+    case QMetaType::UChar: // a number here, no letter
+        return QString::number(*static_cast<const uchar *>(argument));
     case QMetaType::QString:
         return QLatin1Char('"') + *static_cast<const QString *>(argument) + QLatin1Char('"');
     default:

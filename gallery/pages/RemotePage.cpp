@@ -1,0 +1,217 @@
+#include "gallery/PageParts.h"
+#include "gallery/Pages.h"
+#include "gallery/SignalLog.h"
+#include "gallery/simulation/Laser.h"
+
+#include <Pelorin/Button>
+#include <Pelorin/MarquelRemoteControl>
+#include <Pelorin/MarquelXRemoteControl>
+#include <Pelorin/OstrelRemoteControl>
+#include <Pelorin/RemoteControl>
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <QVariant>
+
+#include <functional>
+
+namespace {
+
+using Simulation::Laser;
+
+QString text(bool on)
+{
+    return on ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+/// Writes every request of one panel, and gives it to the laser.
+class Requests
+{
+public:
+    Requests(const char *panel, Laser *laser, SignalLog *log)
+        : m_panel(QLatin1String(panel))
+        , m_laser(laser)
+        , m_log(log)
+    {}
+
+    template<class Panel>
+    void pass(Panel *panel, void (Panel::*signal)(bool), const char *name,
+              void (Laser::*ask)(bool)) const
+    {
+        const QString signalName = QLatin1String(name);
+        QObject::connect(panel, signal, m_laser, [*this, signalName, ask](bool on) {
+            m_log->note(m_panel, signalName, text(on));
+            (m_laser->*ask)(on);
+        });
+    }
+
+private:
+    QString m_panel;
+    Laser *m_laser;
+    SignalLog *m_log;
+};
+
+QHBoxLayout *option(const char *name, bool checked, const std::function<void(bool)> &follow)
+{
+    auto *check = new QCheckBox;
+    check->setProperty("type", QStringLiteral("text"));
+    check->setChecked(checked);
+    QObject::connect(check, &QCheckBox::toggled, check, follow);
+    auto *row = new QHBoxLayout;
+    row->addWidget(check);
+    row->addWidget(PageParts::label(QLatin1String(name), "text"));
+    row->addStretch(1);
+    return row;
+}
+
+QFrame *panelCard(const char *caption, const char *note, QWidget *panel,
+                  std::initializer_list<QHBoxLayout *> options = {})
+{
+    auto *layout = new QVBoxLayout;
+    layout->setSpacing(8);
+    panel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    layout->addWidget(panel, 0, Qt::AlignHCenter);
+    layout->addStretch(1);
+    layout->addSpacing(12);
+    for (QHBoxLayout *each : options)
+        layout->addLayout(each);
+    return PageParts::card(QLatin1String(caption), QLatin1String(note), layout);
+}
+
+QFrame *plainCard(Laser *laser, SignalLog *log)
+{
+    auto *panel = new RemoteControl;
+    Requests("RemoteControl", laser, log)
+        .pass(panel, &RemoteControl::emissionChangedByRC, "emissionChangedByRC", &Laser::emitLight);
+    QObject::connect(laser, &Laser::stateChanged, panel, [panel, laser](uchar state) {
+        panel->setEmissionPartialLS(laser->emits(), state == Laser::Starting);
+    });
+    return panelCard("RemoteControl", "Blinks in state 4, while the emission is about to come.",
+                     panel);
+}
+
+QFrame *marquelCard(Laser *laser, SignalLog *log)
+{
+    using Panel = MarquelRemoteControl;
+    auto *panel = new Panel;
+    Requests("MarquelRemoteControl", laser, log)
+        .pass(panel, &Panel::sigWriteEmissionState, "sigWriteEmissionState", &Laser::emitLight);
+    QObject::connect(laser, &Laser::stateChanged, panel,
+                     [panel, laser] { panel->slotEmissionChanged(laser->emits()); });
+    return panelCard("MarquelRemoteControl", "Asks before it switches on without a wavelength.",
+                     panel, { option("No wavelength selected", false, [panel](bool on) {
+                         panel->slotSetNoHarmonicWavelengthWarning(on);
+                     }) });
+}
+
+QFrame *ostrelCard(Laser *laser, SignalLog *log)
+{
+    using Panel = OstrelRemoteControl;
+    auto *panel = new Panel;
+    const Requests requests("OstrelRemoteControl", laser, log);
+    requests.pass(panel, &Panel::outEnableChanged, "outEnableChanged", &Laser::emitLight);
+    requests.pass(panel, &Panel::standbyChanged, "standbyChanged", &Laser::standBy);
+    requests.pass(panel, &Panel::listenChanged, "listenChanged", &Laser::listen);
+    QObject::connect(laser, &Laser::stateChanged, panel, &Panel::slotFSMStateChanged);
+    return panelCard(
+        "OstrelRemoteControl", "Keeps its lamps above state 6, which it does not know.", panel,
+        { option("Output enable", true, [panel](bool on) { panel->enableOutEnableButton(on); }) });
+}
+
+QFrame *marquelXCard(Laser *laser, SignalLog *log)
+{
+    using Panel = MarquelXRemoteControl;
+    auto *panel = new Panel;
+    const Requests requests("MarquelXRemoteControl", laser, log);
+    requests.pass(panel, &Panel::tpsrOptimizationChanged, "tpsrOptimizationChanged", &Laser::tune);
+    requests.pass(panel, &Panel::outEnableChanged, "outEnableChanged", &Laser::emitLight);
+    requests.pass(panel, &Panel::laserOnChanged, "laserOnChanged", &Laser::switchOn);
+    requests.pass(panel, &Panel::standbyChanged, "standbyChanged", &Laser::standBy);
+    requests.pass(panel, &Panel::listenChanged, "listenChanged", &Laser::listen);
+    QObject::connect(laser, &Laser::stateChanged, panel, [panel](uchar state) {
+        panel->slotFSMStateChanged(state);
+        if (state == Laser::Tuning)
+            panel->slotTPSRbuttonState(1);
+    });
+    return panelCard(
+        "MarquelXRemoteControl", "Freezes in state 7; tunes its pulse stretcher in state 8.", panel,
+        { option("Pulse stretcher", true, [panel](bool on) { panel->slotTPSRbuttonView(on); }),
+          option("Output enable", true, [panel](bool on) { panel->enableOutEnableButton(on); }) });
+}
+
+/// A button for each state, of which the present one is green.
+QFrame *laserCard(Laser *laser)
+{
+    struct Choice
+    {
+        uchar state;
+        const char *name;
+    };
+    static const Choice choices[] = { { Laser::Off, "Off" },
+                                      { Laser::Listening, "Listening" },
+                                      { Laser::WarmingUp, "Warming up" },
+                                      { Laser::StandingBy, "Standby" },
+                                      { Laser::Starting, "Starting" },
+                                      { Laser::Ready, "Ready" },
+                                      { Laser::Emitting, "Emitting" },
+                                      { Laser::Frozen, "Frozen" },
+                                      { Laser::Tuning, "Tuning" },
+                                      { 200, "Unknown" } };
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    auto *group = new QButtonGroup(row);
+    for (const Choice &each : choices) {
+        auto *button =
+            new Button(QStringLiteral("%1\n%2").arg(each.state).arg(QLatin1String(each.name)));
+        button->setSize(Button::LongSmall);
+        button->setColor(Button::DarkGrey);
+        button->setCheckedColor(Button::Green);
+        button->setCheckable(true);
+        group->addButton(button, each.state);
+        row->addWidget(button);
+    }
+    row->addStretch(1);
+    auto *start = new Button(QStringLiteral("Start up"));
+    start->setSize(Button::LongSmall);
+    row->addWidget(start);
+    QObject::connect(group, &QButtonGroup::idClicked, laser,
+                     [laser](int state) { laser->setState(uchar(state)); });
+    QObject::connect(start, &Button::clicked, laser, [laser] { laser->startUp(); });
+    QObject::connect(laser, &Laser::stateChanged, group,
+                     [group](uchar state) { group->button(state)->setChecked(true); });
+    return PageParts::card(QStringLiteral("The laser's state byte"),
+                           QStringLiteral("It drives all four panels. What a panel asks for takes "
+                                          "the laser there, one state after the other."),
+                           row);
+}
+
+} // namespace
+
+QWidget *buildRemotePage()
+{
+    auto *page = new QWidget;
+    auto *grid = new QGridLayout(page);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(PageParts::gap);
+    auto *laser = new Laser(page);
+    auto *log = new SignalLog;
+    log->setPlaceholderText(QStringLiteral("Press a button of a panel"));
+    grid->addWidget(laserCard(laser), 0, 0, 1, 4);
+    const auto cards = { plainCard(laser, log), marquelCard(laser, log), ostrelCard(laser, log),
+                         marquelXCard(laser, log) };
+    int column = 0;
+    for (QFrame *each : cards) {
+        each->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        grid->setColumnStretch(column, 1);
+        grid->addWidget(each, 1, column++);
+    }
+    grid->addWidget(PageParts::card(QStringLiteral("Requests"), QString(), log), 2, 0, 1, 4);
+    grid->setRowStretch(2, 1);
+    laser->setState(Laser::Starting);
+    return page;
+}
