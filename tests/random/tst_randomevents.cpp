@@ -1,3 +1,5 @@
+#include "Pelorin/containers/ScrollArea.h"
+#include "Pelorin/containers/ScrollAreaNG.h"
 #include "Pelorin/containers/stackWidget.h"
 #include "Pelorin/controls/Button.h"
 #include "Pelorin/controls/ComboBox.h"
@@ -126,6 +128,15 @@ QWidget *filledChart()
     return chart;
 }
 
+QWidget *filledItemList()
+{
+    auto *list = new ScrollAreaNG(ScrollAreaNG::LayoutFlow, ScrollAreaNG::ScrollBarGrey, 4, 6,
+                                  Qt::ScrollBarAsNeeded);
+    for (int i = 0; i < 8; ++i)
+        list->listItemAppend(new ScrollAreaNGItem);
+    return list;
+}
+
 QWidget *filledStack()
 {
     auto *stack = new stackWidget;
@@ -187,6 +198,8 @@ const QVector<Subject> &subjects()
           [] { return new ScaleSliderNG(Qt::Horizontal, ScaleSliderNG::ScaleLinear, nullptr); } },
         { "ScaleSliderNG, vertical steps",
           [] { return new ScaleSliderNG(Qt::Vertical, ScaleSliderNG::ScaleSqrtSteps, nullptr); } },
+        { "ScrollArea", [] { return new ScrollArea(true); } },
+        { "ScrollAreaNG", filledItemList },
         { "stackWidget", filledStack },
         { "PulsesView", [] { return new PulsesView; } },
         { "QualityIndicator", [] { return new QualityIndicator; } },

@@ -1,0 +1,5 @@
+#include "Pelorin/containers/ScrollAreaNGContainer.h"
+
+ScrollAreaNGContainer::ScrollAreaNGContainer(QWidget *parent)
+    : QWidgetNG(parent)
+{}

@@ -1,0 +1,5 @@
+#include "Pelorin/containers/ScrollAreaNGItem.h"
+
+ScrollAreaNGItem::ScrollAreaNGItem(QWidget *parent)
+    : QWidgetNG(parent)
+{}
