@@ -13,6 +13,12 @@
 
 #include <limits>
 #include <memory>
+#include <thread>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -84,6 +90,29 @@ tFluorophoreData slopedDye(unsigned int id, const char *name)
     return data;
 }
 
+/// The other end of a pipe that somebody writes into: takes all that comes, and tells of the cursor at
+/// the first of it, while the writer cannot go on.
+struct SlowReader
+{
+    void run(int pipe)
+    {
+        pollfd waiting{ pipe, POLLIN, 0 };
+        char buffer[4096];
+        while (poll(&waiting, 1, 5000) > 0) {
+            if (content.isEmpty())
+                cursor = QApplication::overrideCursor() ? QApplication::overrideCursor()->shape()
+                                                        : Qt::ArrowCursor;
+            const ssize_t count = read(pipe, buffer, sizeof buffer);
+            if (count <= 0)
+                return;
+            content.append(buffer, int(count));
+        }
+    }
+
+    QByteArray content;
+    Qt::CursorShape cursor = Qt::ArrowCursor;
+};
+
 /// A chart from 500 to 503 nm with all curves by hand.
 class SmallChart : public ChartProbe
 {
@@ -134,6 +163,7 @@ private Q_SLOTS:
     void opensTheDialogAtEachClick();
     void choosesTheKindByTheFilter_data();
     void choosesTheKindByTheFilter();
+    void showsTheWaitCursorWhileItWritesData();
     void savesThePictureAsItWasBeforeTheDialog();
     void asksForAMissingDirectory();
     void makesAMissingDirectory();
@@ -452,6 +482,32 @@ void tst_WavelengthChartExport::choosesTheKindByTheFilter()
         QCOMPARE(contentOf(file), dataOf(chart));
     else
         QCOMPARE(QImage(file).size(), chart.chart()->boundingRect().toRect().size());
+}
+
+void tst_WavelengthChartExport::showsTheWaitCursorWhileItWritesData()
+{
+    ChartProbe chart;
+    QVector<QPointF> spectrum;
+    for (int i = 0; i < 20'000; ++i) // more than a pipe holds
+        spectrum << QPointF(400.0 + i / 64.0, i);
+    chart.setSpectrometerData(spectrum);
+    const QByteArray name = path("pipe").toLocal8Bit();
+    QCOMPARE(mkfifo(name.constData(), 0600), 0);
+    const int pipe = open(name.constData(), O_RDONLY | O_NONBLOCK);
+    SlowReader reader;
+    std::thread reading([&] { reader.run(pipe); });
+    DialogHand hand;
+    hand.save(path("pipe"), dataFilter);
+    hand.answer(QMessageBox::Yes); // it replaces the pipe, which is there
+
+    chart.saveButton()->click();
+
+    reading.join();
+    close(pipe);
+    QCOMPARE(hand.problems(), QStringList());
+    QCOMPARE(reader.cursor, Qt::WaitCursor);
+    QVERIFY(!QApplication::overrideCursor());
+    QVERIFY(reader.content == dataOf(chart));
 }
 
 void tst_WavelengthChartExport::savesThePictureAsItWasBeforeTheDialog()

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+using QtCharts::QValueAxis;
+
 namespace {
 
 const QString tagStart = QStringLiteral("<div style='padding: 2px; color: #FFFFFF; "
@@ -78,7 +80,8 @@ public:
         described.description = description;
         addFluorophore(described);
         setFluorophoresVisible(true);
-        tags().last()->setPos(tagPlace());
+        for (FluorophoreTagName *tag : tags()) // what changes the dyes moves all of them
+            tag->setPos(tagPlace());
     }
     QPointF tagPlace() const { return plot().center(); }
     QPoint onTag() const { return (tagPlace() + QPointF(5.0, 5.0)).toPoint(); }
@@ -144,6 +147,7 @@ private Q_SLOTS:
     void placesCoordinatesToTheRight();
     void flipsAllCoordinatesTogether_data();
     void flipsAllCoordinatesTogether();
+    void keepsTheReadoutWhereAnAxisDoesNotReach_data();
     void keepsTheReadoutWhereAnAxisDoesNotReach();
     void hidesTheReadoutOutsideOfThePlot();
 
@@ -259,19 +263,38 @@ void tst_WavelengthChartPointer::flipsAllCoordinatesTogether()
     QCOMPARE(chart.places(pointer), flipped ? left : placesToTheRight());
 }
 
-/// The axis has been set apart from the data's own by an application.
+void tst_WavelengthChartPointer::keepsTheReadoutWhereAnAxisDoesNotReach_data()
+{
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<double>("min");
+    QTest::addColumn<double>("max");
+
+    // The pointer is at 575 nm and 1 mW/nm.
+    QTest::newRow("wavelength above") << Qt::Horizontal << 300.0 << 400.0;
+    QTest::newRow("wavelength below") << Qt::Horizontal << 600.0 << 700.0;
+    QTest::newRow("power above") << Qt::Vertical << -1.0 << 0.5;
+    QTest::newRow("power below") << Qt::Vertical << 5.0 << 6.0;
+    QTest::newRow("power axis without span") << Qt::Vertical << 0.0 << 0.0;
+}
+
+/// An application has taken the spectrum off the axis.
 void tst_WavelengthChartPointer::keepsTheReadoutWhereAnAxisDoesNotReach()
 {
+    QFETCH(Qt::Orientation, orientation);
+    QFETCH(double, min);
+    QFETCH(double, max);
     Readout chart;
     const QPoint pointer = chart.plot().center().toPoint();
     chart.hand.move(pointer);
     const QStringList before = chart.shown();
     chart.timer->stop();
     QCOMPARE(before.size(), 3);
-    chart.chart()->setPlotArea(QRectF()); // back to what the layout says
-    chart.setSpectrumPowerRange(0.0, 0.0, Converter::pwrMW3);
+    QValueAxis *const axis =
+        orientation == Qt::Horizontal ? chart.wavelengthAxis() : chart.powerAxis();
+    QVERIFY(chart.spectrum()->detachAxis(axis));
+    axis->setRange(min, max);
 
-    chart.hand.move(pointer + QPoint(50, 20));
+    chart.hand.move(pointer + QPoint(1, 1));
 
     QCOMPARE(chart.shown(), before);
     QCOMPARE(chart.places(pointer), placesToTheRight());

@@ -102,6 +102,16 @@ void DialogHand::poll()
     }
     m_served = dialog;
     m_polls = 0;
+    // Not from within the timer, which would stand still while the dialog opens another.
+    const QPointer<QWidget> guarded(dialog);
+    QMetaObject::invokeMethod(
+        this, [this, guarded] { takeUp(guarded); }, Qt::QueuedConnection);
+}
+
+void DialogHand::takeUp(const QPointer<QWidget> &dialog)
+{
+    if (!dialog)
+        return;
     if (m_actions.isEmpty())
         close(*dialog, QStringLiteral("was not announced"));
     else if (!m_actions.takeFirst()(*dialog))

@@ -43,6 +43,7 @@ private:
     using Action = std::function<bool(QWidget &)>;
 
     void poll();
+    void takeUp(const QPointer<QWidget> &dialog);
     void close(QWidget &dialog, const QString &problem);
 
     QTimer m_timer;
