@@ -6,6 +6,7 @@
 #include <Pelorin/Pelorin>
 
 #include <QApplication>
+#include <QLoggingCategory>
 
 #include <cstdio>
 
@@ -42,6 +43,8 @@ void dropKnownNoise(QtMsgType, const QMessageLogContext &, const QString &text)
 /// The order in which every application starts that uses the library.
 void prepare(QApplication &app)
 {
+    // A signal graph writes down each of its points; QT_LOGGING_RULES brings them back.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     QApplication::setApplicationName(QStringLiteral("pelorin-gallery"));
     // The face of the displays is rarely at hand; one of the same build stands in.
     QFont::insertSubstitution(QStringLiteral("Consolas"), QStringLiteral("DejaVu Sans Mono"));
