@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int holdMs = 250;
 /// More than a double can tell apart.
 constexpr int maxDigits = 400;
 
@@ -56,19 +55,13 @@ QString toSignificantDigits(double value, int digits)
 
 LineEditNumber::LineEditNumber(QWidget *parent)
     : LineEdit(parent)
-    , m_nudgeHoldTimer(this)
-    , m_feedbackTimer(this)
+    , m_nudgeHold(this, QStringLiteral("nudgeHoldTimer"))
 {
     setAlignment(Qt::AlignRight);
     connect(this, &QLineEdit::textChanged, this, &LineEditNumber::emitNumberChanged);
     connect(this, &LineEdit::textSaved, this, &LineEditNumber::emitNumberSaved);
-    m_nudgeHoldTimer.setObjectName(QStringLiteral("nudgeHoldTimer"));
-    m_feedbackTimer.setObjectName(QStringLiteral("feedbackTimer"));
-    for (QTimer *timer : { &m_nudgeHoldTimer, &m_feedbackTimer }) {
-        timer->setSingleShot(true);
-        timer->setInterval(holdMs);
-    }
-    connect(&m_feedbackTimer, &QTimer::timeout, this, &LineEditNumber::updateFeedbackValue);
+    connect(m_nudgeHold.feedbackTimer(), &QTimer::timeout, this,
+            &LineEditNumber::updateFeedbackValue);
 }
 
 double LineEditNumber::number() const
@@ -102,9 +95,8 @@ void LineEditNumber::setNumber(double value, int precision)
 
 void LineEditNumber::setText(QString text)
 {
-    if (m_nudgeHoldTimer.isActive()) {
+    if (m_nudgeHold.holdsBack()) {
         m_feedbackValue = text;
-        m_feedbackTimer.start();
         return;
     }
     QString filtered;
@@ -134,7 +126,7 @@ void LineEditNumber::nudge(int direction)
     const double value = number() + direction * m_nudgeStep;
     LineEdit::setText(decimalText(value, decimals));
     qDebug() << "LineEditNumber::nudge" << value << decimals;
-    m_nudgeHoldTimer.start();
+    m_nudgeHold.begin();
     Q_EMIT returnPressed();
 }
 

@@ -2,6 +2,7 @@
 #define PELORIN_CONTROLS_LINEEDITNUMBER_H
 
 #include "Pelorin/controls/LineEdit.h"
+#include "Pelorin/controls/NudgeHold.h"
 
 /// \a value with \a digits significant digits, rounded and without an exponent: 1234.5 with two digits is "1200",
 /// 0.012345 is "0.012". Zero has one digit less behind the point, "0.00" with three. With fewer than one
@@ -62,8 +63,7 @@ private Q_SLOTS:
 
 private:
     double m_nudgeStep = 0.0;
-    QTimer m_nudgeHoldTimer;
-    QTimer m_feedbackTimer;
+    NudgeHold m_nudgeHold;
     QString m_feedbackValue;
 };
 

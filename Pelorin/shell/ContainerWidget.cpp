@@ -1,6 +1,6 @@
 #include "Pelorin/shell/ContainerWidget.h"
 
-#include "Pelorin/theme/StyleProperty_p.h"
+#include "Pelorin/theme/PanelGround_p.h"
 #include "Pelorin/theme/StyledBackground_p.h"
 
 ContainerWidget::ContainerWidget(QWidget *parent)
@@ -9,7 +9,7 @@ ContainerWidget::ContainerWidget(QWidget *parent)
 
 void ContainerWidget::setDarkBackground(bool dark)
 {
-    setProperty(StyleProperty::widgetColor, dark ? WidgetColor::lightGrey : WidgetColor::white);
+    setPanelGround(*this, dark);
 }
 
 void ContainerWidget::paintEvent(QPaintEvent *)

@@ -6,6 +6,7 @@
 #include "Pelorin/sliders/ComboSliderUnit.h"
 #include "Pelorin/sliders/DigitStep_p.h"
 #include "Pelorin/sliders/ScaleSlider.h"
+#include "Pelorin/theme/PanelGround_p.h"
 #include "Pelorin/theme/StyleProperty_p.h"
 #include "Pelorin/theme/StyledBackground_p.h"
 
@@ -18,7 +19,6 @@
 
 namespace {
 
-constexpr int holdMs = 250;
 /// Number and unit together.
 constexpr int numberAndUnitWidth = 150;
 
@@ -30,16 +30,9 @@ ComboSlider::ComboSlider(int sideMargin, QWidget *parent)
     , m_lineInput(new LineEditNumber(this))
     , m_unitCombo(new ComboBox(this))
     , m_slider(new ScaleSlider(this))
-    , m_nudgeTimer(this)
-    , m_feedbackTimer(this)
+    , m_nudgeHold(this, QStringLiteral("nudgeTimer"))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    m_nudgeTimer.setObjectName(QStringLiteral("nudgeTimer"));
-    m_feedbackTimer.setObjectName(QStringLiteral("feedbackTimer"));
-    for (QTimer *timer : { &m_nudgeTimer, &m_feedbackTimer }) {
-        timer->setSingleShot(true);
-        timer->setInterval(holdMs);
-    }
     configureFields(sideMargin);
     connectFields();
     layOut(sideMargin);
@@ -74,7 +67,7 @@ void ComboSlider::connectFields()
     connect(m_unitCombo, &ComboBox::currentIndexChanged, this, &ComboSlider::unitIndexChanged);
     connect(m_slider, &ScaleSlider::handleFinishedMoving, this, &ComboSlider::acceptInputValue);
     connect(m_slider, &ScaleSlider::wheelMoved, this, &ComboSlider::nudge);
-    connect(&m_feedbackTimer, &QTimer::timeout, this, &ComboSlider::updateFeedbackValue);
+    connect(m_nudgeHold.feedbackTimer(), &QTimer::timeout, this, &ComboSlider::updateFeedbackValue);
     connect(m_lineInput, &LineEdit::textEditing, this, &ComboSlider::enterEditMode);
     connect(m_slider, &ScaleSlider::handleGrapped, this, &ComboSlider::enterEditMode);
     connect(m_lineInput, &LineEditNumber::numberSaved, this, &ComboSlider::exitEditMode);
@@ -133,9 +126,7 @@ void ComboSlider::setPrecision(int) {}
 
 void ComboSlider::setDarkBackground(bool dark)
 {
-    setProperty(StyleProperty::widgetColor, dark ? WidgetColor::lightGrey : WidgetColor::white);
-    m_lineInput->setProperty(StyleProperty::background,
-                             dark ? FieldBackground::white : FieldBackground::dark);
+    setPanelGround(*this, dark, { m_lineInput });
 }
 
 bool ComboSlider::isScaleVisible(int index) const
@@ -145,9 +136,8 @@ bool ComboSlider::isScaleVisible(int index) const
 
 void ComboSlider::setValue(double value)
 {
-    if (m_nudgeTimer.isActive()) {
+    if (m_nudgeHold.holdsBack()) {
         m_feedbackValue = value;
-        m_feedbackTimer.start();
         return;
     }
     m_slider->setCurrentValue(value);
@@ -301,7 +291,7 @@ void ComboSlider::nudge(int direction)
     const QPointer<ComboSlider> self(this);
     Q_EMIT valueChanged(value);
     if (self)
-        m_nudgeTimer.start();
+        m_nudgeHold.begin();
 }
 
 void ComboSlider::updateFeedbackValue()

@@ -2,11 +2,11 @@
 #define PELORIN_SLIDERS_COMBOSLIDER_H
 
 #include "Pelorin/PelorinGlobal.h"
+#include "Pelorin/controls/NudgeHold.h"
 
 #include <QList>
 #include <QPointer>
 #include <QString>
-#include <QTimer>
 #include <QWidget>
 
 class ComboBox;
@@ -151,8 +151,7 @@ private:
     ComboBox *m_unitCombo;
     ScaleSlider *m_slider;
     QList<QPointer<ComboSliderScale>> m_scales;
-    QTimer m_nudgeTimer;
-    QTimer m_feedbackTimer;
+    NudgeHold m_nudgeHold;
     double m_feedbackValue = 0.0;
     bool m_editMode = false;
     double m_savedValue = 0.0;

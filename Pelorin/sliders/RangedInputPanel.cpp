@@ -1,5 +1,6 @@
 #include "Pelorin/sliders/RangedInputPanel.h"
 
+#include "Pelorin/theme/PanelGround_p.h"
 #include "Pelorin/theme/StyleProperty_p.h"
 #include "Pelorin/theme/StyledBackground_p.h"
 
@@ -32,10 +33,7 @@ void RangedInputPanel::setUnitText(const QString &text)
 
 void RangedInputPanel::setDarkBackground(bool dark)
 {
-    const QLatin1String field = dark ? FieldBackground::white : FieldBackground::dark;
-    setProperty(StyleProperty::widgetColor, dark ? WidgetColor::lightGrey : WidgetColor::white);
-    m_start.input->setProperty(StyleProperty::background, field);
-    m_stop.input->setProperty(StyleProperty::background, field);
+    setPanelGround(*this, dark, { m_start.input, m_stop.input });
 }
 
 void RangedInputPanel::layOut(int sideMargin, QLineEdit *startInput, QLineEdit *stopInput,
