@@ -1,7 +1,6 @@
 #include "Pelorin/remote/MarquelRemoteControl.h"
 
 #include "Pelorin/controls/Button.h"
-#include "Pelorin/remote/LaserValues_p.h"
 #include "Pelorin/remote/PanelParts_p.h"
 #include "Pelorin/theme/StyleProperty_p.h"
 
@@ -45,78 +44,10 @@ MarquelRemoteControl::MarquelRemoteControl(QWidget *parent)
     : QWidget(parent)
     , m_emissionButton(PanelParts::makeEmissionButton(tr("Emission\nON / OFF"),
                                                       QStringLiteral("Toggle Emission"), this))
-    , m_values(std::make_unique<LaserValues>())
 {
     connect(m_emissionButton, &IndicatorButton::toggled, this,
             &MarquelRemoteControl::slotWriteEmissionState);
     PanelParts::makeRow(this)->addWidget(m_emissionButton);
-}
-
-MarquelRemoteControl::~MarquelRemoteControl() = default;
-
-bool MarquelRemoteControl::getDWLSFeature() const
-{
-    return m_values->dwlsFeature;
-}
-
-uchar MarquelRemoteControl::getDynamicWavelength() const
-{
-    return m_values->dynamicWavelength;
-}
-
-double MarquelRemoteControl::getSetpointDWLS_IR() const
-{
-    return m_values->setpointDWLS_IR;
-}
-
-double MarquelRemoteControl::getSetpointDWLS_SHG() const
-{
-    return m_values->setpointDWLS_SHG;
-}
-
-double MarquelRemoteControl::getSetpointDWLS_THG() const
-{
-    return m_values->setpointDWLS_THG;
-}
-
-double MarquelRemoteControl::getSetpointDWLS_FHG() const
-{
-    return m_values->setpointDWLS_FHG;
-}
-
-double MarquelRemoteControl::getMeasuredLaserPower() const
-{
-    return m_values->measuredLaserPower;
-}
-
-double MarquelRemoteControl::getMeasuredLaserPowerMaximum() const
-{
-    return m_values->measuredLaserPowerMaximum;
-}
-
-double MarquelRemoteControl::getSetpointLaserPower() const
-{
-    return m_values->setpointLaserPower;
-}
-
-double MarquelRemoteControl::getSetpointLaserPowerMin() const
-{
-    return m_values->setpointLaserPowerMin;
-}
-
-double MarquelRemoteControl::getSetpointLaserPowerMax() const
-{
-    return m_values->setpointLaserPowerMax;
-}
-
-int MarquelRemoteControl::getSetpointLaserPowerDec() const
-{
-    return m_values->setpointLaserPowerDec;
-}
-
-QString MarquelRemoteControl::getSetpointLaserPowerUnit() const
-{
-    return m_values->setpointLaserPowerUnit;
 }
 
 void MarquelRemoteControl::slotEmissionChanged(bool on)
@@ -129,46 +60,39 @@ void MarquelRemoteControl::slotEmissionChanged(bool on)
 
 void MarquelRemoteControl::slotDWLSFeatureChanged(bool enabled)
 {
-    m_values->dwlsFeature = enabled;
+    m_dwlsFeature = enabled;
     Q_EMIT sigDWLSFeatureChanged(enabled);
 }
 
 void MarquelRemoteControl::slotDWLSSetpointsChanged(double setpointIR, double setpointSHG,
                                                     double setpointTHG, double setpointFHG)
 {
-    m_values->setpointDWLS_IR = setpointIR;
-    m_values->setpointDWLS_SHG = setpointSHG;
-    m_values->setpointDWLS_THG = setpointTHG;
-    m_values->setpointDWLS_FHG = setpointFHG;
+    storeDWLSSetpoints(setpointIR, setpointSHG, setpointTHG, setpointFHG);
     Q_EMIT sigDWLSSetpointsChanged(setpointIR, setpointSHG, setpointTHG, setpointFHG);
 }
 
 void MarquelRemoteControl::slotDynamicWavelengthChanged(uchar wavelength)
 {
-    m_values->dynamicWavelength = wavelength;
+    m_dynamicWavelength = wavelength;
     Q_EMIT sigDynamicWavelengthChanged(wavelength);
 }
 
 void MarquelRemoteControl::slotMeasuredPowerChanged(double measuredPower, double maximumPower)
 {
-    m_values->measuredLaserPower = measuredPower;
-    m_values->measuredLaserPowerMaximum = maximumPower;
+    storeMeasuredPower(measuredPower, maximumPower);
     Q_EMIT sigMeasuredLaserPowerChanged(measuredPower, maximumPower);
 }
 
 void MarquelRemoteControl::slotSetpointLaserPowerChanged(double setpoint)
 {
-    m_values->setpointLaserPower = setpoint;
+    m_setpointLaserPower = setpoint;
     Q_EMIT sigSetpointLaserPowerChanged(setpoint);
 }
 
 void MarquelRemoteControl::slotSetpointLaserPowerRangeChanged(double min, double max, int dec,
                                                               QString unit)
 {
-    m_values->setpointLaserPowerMin = min;
-    m_values->setpointLaserPowerMax = max;
-    m_values->setpointLaserPowerDec = dec;
-    m_values->setpointLaserPowerUnit = unit;
+    storeSetpointRange(min, max, dec, unit);
     Q_EMIT sigSetpointLaserPowerRangeChanged(min, max, dec, unit);
 }
 
@@ -186,7 +110,7 @@ void MarquelRemoteControl::slotWriteEmissionState(bool on)
 
 void MarquelRemoteControl::slotWriteDWLSFeature(bool enabled)
 {
-    m_values->dwlsFeature = enabled;
+    m_dwlsFeature = enabled;
     Q_EMIT sigWriteDWLSFeature(enabled);
 }
 
@@ -197,13 +121,13 @@ void MarquelRemoteControl::slotWriteDWLSSetpoints()
 
 void MarquelRemoteControl::slotWriteDynamicWavelength(uchar wavelength)
 {
-    m_values->dynamicWavelength = wavelength;
+    m_dynamicWavelength = wavelength;
     Q_EMIT sigWriteDynamicWavelength(wavelength);
 }
 
 void MarquelRemoteControl::slotWriteLaserPowerSetpoint(double setpoint)
 {
-    m_values->setpointLaserPower = setpoint;
+    m_setpointLaserPower = setpoint;
     Q_EMIT sigWriteLaserPowerSetpoint(setpoint);
 }
 

@@ -2,14 +2,12 @@
 #define PELORIN_REMOTE_MARQUELREMOTECONTROL_H
 
 #include "Pelorin/PelorinGlobal.h"
+#include "Pelorin/remote/LaserValues.h"
 
 #include <QString>
 #include <QWidget>
 
-#include <memory>
-
 class IndicatorButton;
-struct LaserValues;
 
 /// The remote control panel of the second laser model: a button that switches the emission, with a
 /// lamp, and a store of the laser's values.
@@ -17,31 +15,16 @@ struct LaserValues;
 /// A slot named slot...Changed takes a report, slotWrite... a request; both store first and emit
 /// then, on every call, whatever the numbers. Units and ranges are the application's. Emission is the
 /// exception: a request stores nothing, and state and lamp change with the report alone.
-class PELORIN_EXPORT MarquelRemoteControl : public QWidget
+class PELORIN_EXPORT MarquelRemoteControl : public QWidget, public LaserValues
 {
     Q_OBJECT
 
 public:
     /// Emission off.
     explicit MarquelRemoteControl(QWidget *parent = nullptr);
-    ~MarquelRemoteControl() override;
 
     /// What was reported last.
     bool getEmission() const { return m_emission; }
-    bool getDWLSFeature() const;
-    uchar getDynamicWavelength() const;
-    double getSetpointDWLS_IR() const;
-    double getSetpointDWLS_SHG() const;
-    double getSetpointDWLS_THG() const;
-    double getSetpointDWLS_FHG() const;
-    double getMeasuredLaserPower() const;
-    double getMeasuredLaserPowerMaximum() const;
-    double getSetpointLaserPower() const;
-    /// The range is 0 to 100, without decimals and unit, until the laser reports another one.
-    double getSetpointLaserPowerMin() const;
-    double getSetpointLaserPowerMax() const;
-    int getSetpointLaserPowerDec() const;
-    QString getSetpointLaserPowerUnit() const;
 
 Q_SIGNALS:
     /// With every report, after state and lamp are set.
@@ -89,7 +72,6 @@ private:
 
     IndicatorButton *m_emissionButton;
     bool m_emission = false;
-    std::unique_ptr<LaserValues> m_values;
     bool m_noHarmonicWavelengthWarning = false;
 };
 

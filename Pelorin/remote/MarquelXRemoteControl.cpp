@@ -1,6 +1,5 @@
 #include "Pelorin/remote/MarquelXRemoteControl.h"
 
-#include "Pelorin/remote/LaserValues_p.h"
 #include "Pelorin/remote/PanelParts_p.h"
 #include "Pelorin/remote/StateTable_p.h"
 
@@ -49,7 +48,6 @@ MarquelXRemoteControl::MarquelXRemoteControl(QWidget *parent)
     , m_laserOnButton(PanelParts::makeButton(tr("Laser On"), Indicator::Red, this))
     , m_standbyButton(PanelParts::makeButton(tr("Standby"), Indicator::Orange, this))
     , m_listenButton(PanelParts::makeButton(tr("Listen"), Indicator::Green, this))
-    , m_values(std::make_unique<LaserValues>())
 {
     using Panel = MarquelXRemoteControl;
     connect(m_tpsrButton, &IndicatorButton::toggled, this, &Panel::tpsrOptimizationChanged);
@@ -62,76 +60,9 @@ MarquelXRemoteControl::MarquelXRemoteControl(QWidget *parent)
     slotFSMStateChanged(0);
 }
 
-MarquelXRemoteControl::~MarquelXRemoteControl() = default;
-
 bool MarquelXRemoteControl::getEmission() const
 {
     return m_fsmState == emitting;
-}
-
-bool MarquelXRemoteControl::getDWLSFeature() const
-{
-    return m_values->dwlsFeature;
-}
-
-uchar MarquelXRemoteControl::getDynamicWavelength() const
-{
-    return m_values->dynamicWavelength;
-}
-
-double MarquelXRemoteControl::getSetpointDWLS_IR() const
-{
-    return m_values->setpointDWLS_IR;
-}
-
-double MarquelXRemoteControl::getSetpointDWLS_SHG() const
-{
-    return m_values->setpointDWLS_SHG;
-}
-
-double MarquelXRemoteControl::getSetpointDWLS_THG() const
-{
-    return m_values->setpointDWLS_THG;
-}
-
-double MarquelXRemoteControl::getSetpointDWLS_FHG() const
-{
-    return m_values->setpointDWLS_FHG;
-}
-
-double MarquelXRemoteControl::getMeasuredLaserPower() const
-{
-    return m_values->measuredLaserPower;
-}
-
-double MarquelXRemoteControl::getMeasuredLaserPowerMaximum() const
-{
-    return m_values->measuredLaserPowerMaximum;
-}
-
-double MarquelXRemoteControl::getSetpointLaserPower() const
-{
-    return m_values->setpointLaserPower;
-}
-
-double MarquelXRemoteControl::getSetpointLaserPowerMin() const
-{
-    return m_values->setpointLaserPowerMin;
-}
-
-double MarquelXRemoteControl::getSetpointLaserPowerMax() const
-{
-    return m_values->setpointLaserPowerMax;
-}
-
-int MarquelXRemoteControl::getSetpointLaserPowerDec() const
-{
-    return m_values->setpointLaserPowerDec;
-}
-
-QString MarquelXRemoteControl::getSetpointLaserPowerUnit() const
-{
-    return m_values->setpointLaserPowerUnit;
 }
 
 void MarquelXRemoteControl::setOutputEnableState(int state)
@@ -181,30 +112,26 @@ void MarquelXRemoteControl::slotFSMStateChanged(uchar state)
 
 void MarquelXRemoteControl::slotDWLSFeatureChanged(bool enabled)
 {
-    m_values->dwlsFeature = enabled;
+    m_dwlsFeature = enabled;
     Q_EMIT sigDWLSFeatureChanged(enabled);
 }
 
 void MarquelXRemoteControl::slotMeasuredPowerChanged(double measuredPower, double maximumPower)
 {
-    m_values->measuredLaserPower = measuredPower;
-    m_values->measuredLaserPowerMaximum = maximumPower;
+    storeMeasuredPower(measuredPower, maximumPower);
     Q_EMIT sigMeasuredLaserPowerChanged(measuredPower, maximumPower);
 }
 
 void MarquelXRemoteControl::slotSetpointLaserPowerChanged(double setpoint)
 {
-    m_values->setpointLaserPower = setpoint;
+    m_setpointLaserPower = setpoint;
     Q_EMIT sigSetpointLaserPowerChanged(setpoint);
 }
 
 void MarquelXRemoteControl::slotSetpointLaserPowerRangeChanged(double min, double max, int dec,
                                                                QString unit)
 {
-    m_values->setpointLaserPowerMin = min;
-    m_values->setpointLaserPowerMax = max;
-    m_values->setpointLaserPowerDec = dec;
-    m_values->setpointLaserPowerUnit = unit;
+    storeSetpointRange(min, max, dec, unit);
     Q_EMIT sigSetpointLaserPowerRangeChanged(min, max, dec, unit);
 }
 

@@ -2,14 +2,12 @@
 #define PELORIN_REMOTE_MARQUELXREMOTECONTROL_H
 
 #include "Pelorin/PelorinGlobal.h"
+#include "Pelorin/remote/LaserValues.h"
 
 #include <QString>
 #include <QWidget>
 
-#include <memory>
-
 class IndicatorButton;
-struct LaserValues;
 
 /// The remote control panel of the third laser model: the start-up of the laser on four buttons, from
 /// "Listen" at the bottom to "Output enable", with the tuning of its pulse stretcher above them, and
@@ -19,33 +17,18 @@ struct LaserValues;
 /// whatever order the states come. The buttons ask; none of them changes a lamp.
 ///
 /// A slot named slot...Changed takes a report: it stores first and emits then, on every call, whatever
-/// the numbers. Units and ranges are the application's.
-class PELORIN_EXPORT MarquelXRemoteControl : public QWidget
+/// the numbers. Units and ranges are the application's. Nothing sets the dynamic wavelength and the
+/// four setpoints of the wavelengths: they are 0.
+class PELORIN_EXPORT MarquelXRemoteControl : public QWidget, public LaserValues
 {
     Q_OBJECT
 
 public:
     /// In state 0, with all buttons disabled.
     explicit MarquelXRemoteControl(QWidget *parent = nullptr);
-    ~MarquelXRemoteControl() override;
 
     /// Whether the state is 6, although sigEmissionStateChanged() tells of emission in state 8 too.
     bool getEmission() const;
-    bool getDWLSFeature() const;
-    /// Nothing sets it, nor the four setpoints: they are 0.
-    uchar getDynamicWavelength() const;
-    double getSetpointDWLS_IR() const;
-    double getSetpointDWLS_SHG() const;
-    double getSetpointDWLS_THG() const;
-    double getSetpointDWLS_FHG() const;
-    double getMeasuredLaserPower() const;
-    double getMeasuredLaserPowerMaximum() const;
-    double getSetpointLaserPower() const;
-    /// The range is 0 to 100, without decimals and unit, until the laser reports another one.
-    double getSetpointLaserPowerMin() const;
-    double getSetpointLaserPowerMax() const;
-    int getSetpointLaserPowerDec() const;
-    QString getSetpointLaserPowerUnit() const;
 
     /// The lamp of one button: 0 is off, 1 blinking, any other number on. The next state takes over.
     void setOutputEnableState(int state);
@@ -101,7 +84,6 @@ private:
     IndicatorButton *m_laserOnButton;
     IndicatorButton *m_standbyButton;
     IndicatorButton *m_listenButton;
-    std::unique_ptr<LaserValues> m_values;
 };
 
 #endif

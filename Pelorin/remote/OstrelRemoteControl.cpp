@@ -1,6 +1,5 @@
 #include "Pelorin/remote/OstrelRemoteControl.h"
 
-#include "Pelorin/remote/LaserValues_p.h"
 #include "Pelorin/remote/PanelParts_p.h"
 #include "Pelorin/remote/StateTable_p.h"
 
@@ -43,7 +42,6 @@ OstrelRemoteControl::OstrelRemoteControl(QWidget *parent)
     , m_laserOnButton(PanelParts::makeButton(tr("Laser On"), Indicator::Red, this))
     , m_standbyButton(PanelParts::makeButton(tr("Standby"), Indicator::Orange, this))
     , m_listenButton(PanelParts::makeButton(tr("Listen"), Indicator::Green, this))
-    , m_values(std::make_unique<LaserValues>())
 {
     using Panel = OstrelRemoteControl;
     connect(m_outputEnableButton, &IndicatorButton::toggled, this, &Panel::outEnableChanged);
@@ -55,76 +53,9 @@ OstrelRemoteControl::OstrelRemoteControl(QWidget *parent)
     slotFSMStateChanged(0);
 }
 
-OstrelRemoteControl::~OstrelRemoteControl() = default;
-
 bool OstrelRemoteControl::getEmission() const
 {
     return m_fsmState == emitting;
-}
-
-bool OstrelRemoteControl::getDWLSFeature() const
-{
-    return m_values->dwlsFeature;
-}
-
-uchar OstrelRemoteControl::getDynamicWavelength() const
-{
-    return m_values->dynamicWavelength;
-}
-
-double OstrelRemoteControl::getSetpointDWLS_IR() const
-{
-    return m_values->setpointDWLS_IR;
-}
-
-double OstrelRemoteControl::getSetpointDWLS_SHG() const
-{
-    return m_values->setpointDWLS_SHG;
-}
-
-double OstrelRemoteControl::getSetpointDWLS_THG() const
-{
-    return m_values->setpointDWLS_THG;
-}
-
-double OstrelRemoteControl::getSetpointDWLS_FHG() const
-{
-    return m_values->setpointDWLS_FHG;
-}
-
-double OstrelRemoteControl::getMeasuredLaserPower() const
-{
-    return m_values->measuredLaserPower;
-}
-
-double OstrelRemoteControl::getMeasuredLaserPowerMaximum() const
-{
-    return m_values->measuredLaserPowerMaximum;
-}
-
-double OstrelRemoteControl::getSetpointLaserPower() const
-{
-    return m_values->setpointLaserPower;
-}
-
-double OstrelRemoteControl::getSetpointLaserPowerMin() const
-{
-    return m_values->setpointLaserPowerMin;
-}
-
-double OstrelRemoteControl::getSetpointLaserPowerMax() const
-{
-    return m_values->setpointLaserPowerMax;
-}
-
-int OstrelRemoteControl::getSetpointLaserPowerDec() const
-{
-    return m_values->setpointLaserPowerDec;
-}
-
-QString OstrelRemoteControl::getSetpointLaserPowerUnit() const
-{
-    return m_values->setpointLaserPowerUnit;
 }
 
 void OstrelRemoteControl::setOutputEnableState(int state)
@@ -163,52 +94,45 @@ void OstrelRemoteControl::slotFSMStateChanged(uchar state)
 
 void OstrelRemoteControl::slotDWLSFeatureChanged(bool enabled)
 {
-    m_values->dwlsFeature = enabled;
+    m_dwlsFeature = enabled;
     Q_EMIT sigDWLSFeatureChanged(enabled);
 }
 
 void OstrelRemoteControl::slotDWLSSetpointsChanged(double setpointIR, double setpointSHG,
                                                    double setpointTHG, double setpointFHG)
 {
-    m_values->setpointDWLS_IR = setpointIR;
-    m_values->setpointDWLS_SHG = setpointSHG;
-    m_values->setpointDWLS_THG = setpointTHG;
-    m_values->setpointDWLS_FHG = setpointFHG;
+    storeDWLSSetpoints(setpointIR, setpointSHG, setpointTHG, setpointFHG);
     Q_EMIT sigDWLSSetpointsChanged(setpointIR, setpointSHG, setpointTHG, setpointFHG);
 }
 
 void OstrelRemoteControl::slotDynamicWavelengthChanged(uchar wavelength)
 {
-    m_values->dynamicWavelength = wavelength;
+    m_dynamicWavelength = wavelength;
     Q_EMIT sigDynamicWavelengthChanged(wavelength);
 }
 
 void OstrelRemoteControl::slotMeasuredPowerChanged(double measuredPower, double maximumPower)
 {
-    m_values->measuredLaserPower = measuredPower;
-    m_values->measuredLaserPowerMaximum = maximumPower;
+    storeMeasuredPower(measuredPower, maximumPower);
     Q_EMIT sigMeasuredLaserPowerChanged(measuredPower, maximumPower);
 }
 
 void OstrelRemoteControl::slotSetpointLaserPowerChanged(double setpoint)
 {
-    m_values->setpointLaserPower = setpoint;
+    m_setpointLaserPower = setpoint;
     Q_EMIT sigSetpointLaserPowerChanged(setpoint);
 }
 
 void OstrelRemoteControl::slotSetpointLaserPowerRangeChanged(double min, double max, int dec,
                                                              QString unit)
 {
-    m_values->setpointLaserPowerMin = min;
-    m_values->setpointLaserPowerMax = max;
-    m_values->setpointLaserPowerDec = dec;
-    m_values->setpointLaserPowerUnit = unit;
+    storeSetpointRange(min, max, dec, unit);
     Q_EMIT sigSetpointLaserPowerRangeChanged(min, max, dec, unit);
 }
 
 void OstrelRemoteControl::slotWriteDWLSFeature(bool enabled)
 {
-    m_values->dwlsFeature = enabled;
+    m_dwlsFeature = enabled;
     Q_EMIT sigWriteDWLSFeature(enabled);
 }
 
@@ -219,13 +143,13 @@ void OstrelRemoteControl::slotWriteDWLSSetpoints()
 
 void OstrelRemoteControl::slotWriteDynamicWavelength(uchar wavelength)
 {
-    m_values->dynamicWavelength = wavelength;
+    m_dynamicWavelength = wavelength;
     Q_EMIT sigWriteDynamicWavelength(wavelength);
 }
 
 void OstrelRemoteControl::slotWriteLaserPowerSetpoint(double setpoint)
 {
-    m_values->setpointLaserPower = setpoint;
+    m_setpointLaserPower = setpoint;
     Q_EMIT sigWriteLaserPowerSetpoint(setpoint);
 }
 

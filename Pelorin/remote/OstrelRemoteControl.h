@@ -2,14 +2,12 @@
 #define PELORIN_REMOTE_OSTRELREMOTECONTROL_H
 
 #include "Pelorin/PelorinGlobal.h"
+#include "Pelorin/remote/LaserValues.h"
 
 #include <QString>
 #include <QWidget>
 
-#include <memory>
-
 class IndicatorButton;
-struct LaserValues;
 
 /// The remote control panel of the first laser model: the start-up of the laser on four buttons,
 /// from "Listen" at the bottom to "Output enable" at the top, and a store of the laser's values.
@@ -19,31 +17,16 @@ struct LaserValues;
 ///
 /// A slot named slot...Changed takes a report, slotWrite... a request of the application; both store
 /// first and emit then, on every call, whatever the numbers. Units and ranges are the application's.
-class PELORIN_EXPORT OstrelRemoteControl : public QWidget
+class PELORIN_EXPORT OstrelRemoteControl : public QWidget, public LaserValues
 {
     Q_OBJECT
 
 public:
     /// In state 0, with all buttons disabled.
     explicit OstrelRemoteControl(QWidget *parent = nullptr);
-    ~OstrelRemoteControl() override;
 
     /// Whether the state is 6.
     bool getEmission() const;
-    bool getDWLSFeature() const;
-    uchar getDynamicWavelength() const;
-    double getSetpointDWLS_IR() const;
-    double getSetpointDWLS_SHG() const;
-    double getSetpointDWLS_THG() const;
-    double getSetpointDWLS_FHG() const;
-    double getMeasuredLaserPower() const;
-    double getMeasuredLaserPowerMaximum() const;
-    double getSetpointLaserPower() const;
-    /// The range is 0 to 100, without decimals and unit, until the laser reports another one.
-    double getSetpointLaserPowerMin() const;
-    double getSetpointLaserPowerMax() const;
-    int getSetpointLaserPowerDec() const;
-    QString getSetpointLaserPowerUnit() const;
 
     /// The lamp of one button: 0 is off, 1 blinking, any other number on. The next state takes over.
     void setOutputEnableState(int state);
@@ -104,7 +87,6 @@ private:
     IndicatorButton *m_laserOnButton;
     IndicatorButton *m_standbyButton;
     IndicatorButton *m_listenButton;
-    std::unique_ptr<LaserValues> m_values;
 };
 
 #endif
