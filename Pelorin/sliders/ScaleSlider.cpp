@@ -207,6 +207,13 @@ void ScaleSlider::resizeEvent(QResizeEvent *)
     updateHandle();
 }
 
+/// A slider that is hidden or disabled in the hand does not hear of the release.
+void ScaleSlider::hideEvent(QHideEvent *event)
+{
+    m_releaseMayBeLost = m_grabbed;
+    QWidget::hideEvent(event);
+}
+
 void ScaleSlider::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::EnabledChange && !isEnabled())

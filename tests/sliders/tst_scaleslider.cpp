@@ -92,6 +92,7 @@ private Q_SLOTS:
     void movesUnderTheHandWhenSet();
     void takesNoHandleWhileDisabled();
     void letsGoWhatWasReleasedWhileDisabled();
+    void letsGoWhatWasReleasedWhileHidden();
     void goesOnWithADragThatOutlastsADisabling();
     void swallowsTheWheel();
     void mayBeDeletedWhileItReports_data();
@@ -586,6 +587,21 @@ void tst_ScaleSlider::letsGoWhatWasReleasedWhileDisabled()
     QCOMPARE(recorder.taken(), QStringList());
     QCOMPARE(slider.currentValue(), 0.0);
     QCOMPARE(handleLeft(slider), 0);
+}
+
+void tst_ScaleSlider::letsGoWhatWasReleasedWhileHidden()
+{
+    Slider slider;
+    SignalRecorder recorder(&slider);
+    MouseHand(slider).press(QPoint(17, 17));
+    slider.hide();
+    slider.show();
+    recorder.taken();
+
+    MouseHand(slider).move(QPoint(47, 17)); // without a button
+
+    QCOMPARE(recorder.taken(), QStringList());
+    QCOMPARE(slider.currentValue(), 0.0);
 }
 
 void tst_ScaleSlider::goesOnWithADragThatOutlastsADisabling()
