@@ -1,6 +1,7 @@
 #include "gallery/PageParts.h"
 #include "gallery/Pages.h"
 #include "gallery/SignalLog.h"
+#include "gallery/simulation/Clock.h"
 #include "gallery/simulation/Laser.h"
 
 #include <Pelorin/Button>
@@ -198,7 +199,9 @@ QWidget *buildRemotePage()
     auto *grid = new QGridLayout(page);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(PageParts::gap);
-    auto *laser = new Laser(page);
+    auto *clock = new Simulation::Clock(page);
+    auto *laser = new Laser(*clock, page);
+    clock->run();
     auto *log = new SignalLog;
     log->setPlaceholderText(QStringLiteral("Press a button of a panel"));
     grid->addWidget(laserCard(laser), 0, 0, 1, 4);

@@ -2,9 +2,10 @@
 #define PELORIN_GALLERY_LASER_H
 
 #include <QObject>
-#include <QTimer>
 
 namespace Simulation {
+
+class Clock;
 
 /// A laser as its state byte tells of it: it climbs to where it is sent one state after the other, and
 /// falls at once. Requests are answered by stateChanged(), also where they change nothing.
@@ -25,13 +26,18 @@ public:
         Tuning = 8
     };
 
-    explicit Laser(QObject *parent = nullptr);
+    /// Off. It climbs while \a clock runs, which must outlive the laser.
+    explicit Laser(Clock &clock, QObject *parent = nullptr);
 
     uchar state() const { return m_state; }
     bool emits() const { return m_state == Emitting || m_state == Tuning; }
+    bool climbs() const { return m_state < m_target; }
+
+    /// No request takes the laser above \a state, and it falls there if it is above.
+    void setCeiling(State state);
 
 public Q_SLOTS:
-    /// Any byte, at once.
+    /// Any byte, at once, whatever the ceiling.
     void setState(uchar state);
     /// From off to emission.
     void startUp();
@@ -40,6 +46,7 @@ public Q_SLOTS:
     void standBy(bool on) { request(on, StandingBy, Listening); }
     void switchOn(bool on) { request(on, Ready, StandingBy); }
     void emitLight(bool on) { request(on, Emitting, Ready); }
+    /// From emission to tuning, and back; the laser does not tune while it emits nothing.
     void tune(bool on);
 
 Q_SIGNALS:
@@ -47,11 +54,12 @@ Q_SIGNALS:
 
 private:
     void request(bool on, State target, State below);
-    void climb();
+    void tick();
 
-    QTimer m_timer;
+    int m_sinceState = 0; ///< ms
     uchar m_state = Off;
     uchar m_target = Off;
+    State m_ceiling = Tuning;
 };
 
 } // namespace Simulation
