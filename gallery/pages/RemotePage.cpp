@@ -1,5 +1,6 @@
 #include "gallery/PageParts.h"
 #include "gallery/Pages.h"
+#include "gallery/PanelWiring.h"
 #include "gallery/SignalLog.h"
 #include "gallery/simulation/Clock.h"
 #include "gallery/simulation/Laser.h"
@@ -17,7 +18,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
-#include <QVariant>
 
 #include <functional>
 
@@ -25,37 +25,14 @@ namespace {
 
 using Simulation::Laser;
 
-QString text(bool on)
+/// Writes every request of the panel of that name.
+PanelWiring::Note noteFor(const char *panel, SignalLog *log)
 {
-    return on ? QStringLiteral("true") : QStringLiteral("false");
+    const QString name = QLatin1String(panel);
+    return [name, log](const QString &signal, const QString &value) {
+        log->note(name, signal, value);
+    };
 }
-
-/// Writes every request of one panel, and gives it to the laser.
-class Requests
-{
-public:
-    Requests(const char *panel, Laser *laser, SignalLog *log)
-        : m_panel(QLatin1String(panel))
-        , m_laser(laser)
-        , m_log(log)
-    {}
-
-    template<class Panel>
-    void pass(Panel *panel, void (Panel::*signal)(bool), const char *name,
-              void (Laser::*ask)(bool)) const
-    {
-        const QString signalName = QLatin1String(name);
-        QObject::connect(panel, signal, m_laser, [*this, signalName, ask](bool on) {
-            m_log->note(m_panel, signalName, text(on));
-            (m_laser->*ask)(on);
-        });
-    }
-
-private:
-    QString m_panel;
-    Laser *m_laser;
-    SignalLog *m_log;
-};
 
 QHBoxLayout *option(const char *name, bool checked, const std::function<void(bool)> &follow)
 {
@@ -84,61 +61,32 @@ QFrame *panelCard(const char *caption, const char *note, QWidget *panel,
     return PageParts::card(QLatin1String(caption), QLatin1String(note), layout);
 }
 
-QFrame *plainCard(Laser *laser, SignalLog *log)
+QFrame *plainCard(Laser &laser, SignalLog *log)
 {
-    auto *panel = new RemoteControl;
-    Requests("RemoteControl", laser, log)
-        .pass(panel, &RemoteControl::emissionChangedByRC, "emissionChangedByRC", &Laser::emitLight);
-    QObject::connect(laser, &Laser::stateChanged, panel, [panel, laser](uchar state) {
-        panel->setEmissionPartialLS(laser->emits(), state == Laser::Starting);
-    });
     return panelCard("RemoteControl", "Blinks in state 4, while the emission is about to come.",
-                     panel);
+                     PanelWiring::makePlain(laser, noteFor("RemoteControl", log)));
 }
 
-QFrame *marquelCard(Laser *laser, SignalLog *log)
+QFrame *marquelCard(Laser &laser, SignalLog *log)
 {
-    using Panel = MarquelRemoteControl;
-    auto *panel = new Panel;
-    Requests("MarquelRemoteControl", laser, log)
-        .pass(panel, &Panel::sigWriteEmissionState, "sigWriteEmissionState", &Laser::emitLight);
-    QObject::connect(laser, &Laser::stateChanged, panel,
-                     [panel, laser] { panel->slotEmissionChanged(laser->emits()); });
+    auto *panel = PanelWiring::makeMarquel(laser, noteFor("MarquelRemoteControl", log));
     return panelCard("MarquelRemoteControl", "Asks before it switches on without a wavelength.",
                      panel, { option("No wavelength selected", false, [panel](bool on) {
                          panel->slotSetNoHarmonicWavelengthWarning(on);
                      }) });
 }
 
-QFrame *ostrelCard(Laser *laser, SignalLog *log)
+QFrame *ostrelCard(Laser &laser, SignalLog *log)
 {
-    using Panel = OstrelRemoteControl;
-    auto *panel = new Panel;
-    const Requests requests("OstrelRemoteControl", laser, log);
-    requests.pass(panel, &Panel::outEnableChanged, "outEnableChanged", &Laser::emitLight);
-    requests.pass(panel, &Panel::standbyChanged, "standbyChanged", &Laser::standBy);
-    requests.pass(panel, &Panel::listenChanged, "listenChanged", &Laser::listen);
-    QObject::connect(laser, &Laser::stateChanged, panel, &Panel::slotFSMStateChanged);
+    auto *panel = PanelWiring::makeOstrel(laser, noteFor("OstrelRemoteControl", log));
     return panelCard(
         "OstrelRemoteControl", "Keeps its lamps above state 6, which it does not know.", panel,
         { option("Output enable", true, [panel](bool on) { panel->enableOutEnableButton(on); }) });
 }
 
-QFrame *marquelXCard(Laser *laser, SignalLog *log)
+QFrame *marquelXCard(Laser &laser, SignalLog *log)
 {
-    using Panel = MarquelXRemoteControl;
-    auto *panel = new Panel;
-    const Requests requests("MarquelXRemoteControl", laser, log);
-    requests.pass(panel, &Panel::tpsrOptimizationChanged, "tpsrOptimizationChanged", &Laser::tune);
-    requests.pass(panel, &Panel::outEnableChanged, "outEnableChanged", &Laser::emitLight);
-    requests.pass(panel, &Panel::laserOnChanged, "laserOnChanged", &Laser::switchOn);
-    requests.pass(panel, &Panel::standbyChanged, "standbyChanged", &Laser::standBy);
-    requests.pass(panel, &Panel::listenChanged, "listenChanged", &Laser::listen);
-    QObject::connect(laser, &Laser::stateChanged, panel, [panel](uchar state) {
-        panel->slotFSMStateChanged(state);
-        if (state == Laser::Tuning)
-            panel->slotTPSRbuttonState(1);
-    });
+    auto *panel = PanelWiring::makeMarquelX(laser, noteFor("MarquelXRemoteControl", log));
     return panelCard(
         "MarquelXRemoteControl", "Freezes in state 7; tunes its pulse stretcher in state 8.", panel,
         { option("Pulse stretcher", true, [panel](bool on) { panel->slotTPSRbuttonView(on); }),
@@ -205,8 +153,8 @@ QWidget *buildRemotePage()
     auto *log = new SignalLog;
     log->setPlaceholderText(QStringLiteral("Press a button of a panel"));
     grid->addWidget(laserCard(laser), 0, 0, 1, 4);
-    const auto cards = { plainCard(laser, log), marquelCard(laser, log), ostrelCard(laser, log),
-                         marquelXCard(laser, log) };
+    const auto cards = { plainCard(*laser, log), marquelCard(*laser, log), ostrelCard(*laser, log),
+                         marquelXCard(*laser, log) };
     int column = 0;
     for (QFrame *each : cards) {
         each->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
