@@ -29,6 +29,7 @@
 #include "Pelorin/shell/GUIOverlay.h"
 #include "Pelorin/shell/GUIWidget.h"
 #include "Pelorin/shell/MainControlPanel.h"
+#include "Pelorin/shell/MainView.h"
 #include "Pelorin/shell/OverlayImage.h"
 #include "Pelorin/shell/QWidgetNG.h"
 #include "Pelorin/shell/SplashImage.h"
@@ -61,6 +62,7 @@
 #include "tests/support/TestCase.h"
 
 #include <QLoggingCategory>
+#include <QTabBar>
 
 #include <cstdio>
 #include <functional>
@@ -145,6 +147,18 @@ QWidget *filledStack()
     return stack;
 }
 
+/// With a tab, three pages of which one is out of reach, and a panel.
+QWidget *filledView()
+{
+    auto *view = new MainView;
+    view->controlPageTabBar()->addTab(QStringLiteral("Pulse"));
+    for (const char *name : { "Control", "Trigger", "Service" })
+        view->addControlPage(QLatin1String(name), new QWidget);
+    view->setSettingsPageAccess(2, false);
+    view->setRemoteControlWidget(new MarquelRemoteControl);
+    return view;
+}
+
 /// Every widget of the library joins with a line.
 const QVector<Subject> &subjects()
 {
@@ -173,6 +187,7 @@ const QVector<Subject> &subjects()
         { "DockWidget",
           [] { return new DockWidget(QStringLiteral("Trigger"), Qt::LeftDockWidgetArea, true); } },
         { "MainControlPanel", [] { return new MainControlPanel; } },
+        { "MainView", filledView },
         { "TavrinMainWindow", [] { return new TavrinMainWindow; } },
         { "ContainerWidget", [] { return new ContainerWidget; } },
         { "GUIOverlay", [] { return new GUIOverlay; } },
