@@ -24,12 +24,13 @@ ScrollArea::ScrollArea(bool noHorizontalScroll, QWidget *parent)
 
 void ScrollArea::setLayout(QLayout *layout)
 {
-    m_innerWidget->setLayout(layout);
+    if (m_innerWidget && layout)
+        m_innerWidget->setLayout(layout);
 }
 
 bool ScrollArea::setWidgetProperty(const char *name, const QVariant &value)
 {
-    return m_innerWidget->setProperty(name, value);
+    return m_innerWidget && m_innerWidget->setProperty(name, value);
 }
 
 /// A page is never cut off at the side.

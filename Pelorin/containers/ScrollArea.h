@@ -3,6 +3,7 @@
 
 #include "Pelorin/PelorinGlobal.h"
 
+#include <QPointer>
 #include <QScrollArea>
 
 class QVariant;
@@ -18,11 +19,14 @@ public:
     /// horizontal bar.
     explicit ScrollArea(bool noHorizontalScroll, QWidget *parent = nullptr);
 
-    /// Lays out the page, not the area, and takes \a layout over. It hides the operation of QWidget.
+    /// Lays out the page, not the area, and takes \a layout over; null is ignored. It hides the
+    /// operation of QWidget. After another widget was set on the area there is no page any more, and
+    /// the layout stays with the caller.
     void setLayout(QLayout *layout);
 
     /// Sets a property of the page, as of the style sheet. Returns what QObject::setProperty()
-    /// returns.
+    /// returns: false for one that the page does not declare, though it is set. Names of the style
+    /// sheet are read when the page is polished.
     bool setWidgetProperty(const char *name, const QVariant &value);
 
 protected:
@@ -30,7 +34,7 @@ protected:
 
 private:
     bool m_noHorizontalScroll;
-    QWidget *m_innerWidget;
+    QPointer<QWidget> m_innerWidget; ///< goes if the application sets another widget
 };
 
 #endif

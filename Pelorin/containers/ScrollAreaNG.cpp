@@ -1,6 +1,7 @@
 #include "Pelorin/containers/ScrollAreaNG.h"
 
 #include "Pelorin/containers/FlowLayout.h"
+#include "Pelorin/containers/Position_p.h"
 #include "Pelorin/containers/ScrollAreaNGContainer.h"
 #include "Pelorin/theme/StyleProperty_p.h"
 
@@ -10,7 +11,9 @@
 #include <QScrollBar>
 #include <QVariant>
 
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -34,6 +37,15 @@ void swapIn(QLayout &layout, QWidget *left, QWidget *right)
     replaceIn(layout, temporary.get(), right);
 }
 
+template<typename Box>
+Box *makeBox(int margin, int spacing)
+{
+    auto *box = new Box;
+    box->setContentsMargins(margin, margin, margin, margin);
+    box->setSpacing(spacing);
+    return box;
+}
+
 } // namespace
 
 ScrollAreaNG::ScrollAreaNG(eLayoutStyle layoutStyle, eScrollBarColor scrollBarColor, int margin,
@@ -52,25 +64,36 @@ ScrollAreaNG::ScrollAreaNG(eLayoutStyle layoutStyle, eScrollBarColor scrollBarCo
     setWidgetResizable(true);
 }
 
-/// Makes the layout of the items, and the one round it that keeps them together at the start of a
-/// row or a column.
+/// Items and their own signals may still speak while the area goes.
+ScrollAreaNG::~ScrollAreaNG()
+{
+    disconnect(m_scrolling);
+    for (const QPointer<ScrollAreaNGItem> &item : qAsConst(m_items)) {
+        if (item)
+            cutOff(*item);
+    }
+}
+
 QLayout *ScrollAreaNG::makeLayout(int margin, int spacing)
 {
-    if (m_layoutStyle == LayoutFlow) {
-        m_itemLayout = new FlowLayout(nullptr, margin, spacing, spacing);
-        return m_itemLayout;
-    }
-    const bool row = m_layoutStyle == LayoutHorizontal;
-    const auto direction = row ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
-    auto *items = new QBoxLayout(direction);
-    items->setContentsMargins(margin, margin, margin, margin);
-    items->setSpacing(spacing);
-    m_itemLayout = items;
-    auto *outer = new QBoxLayout(direction);
-    outer->setContentsMargins(0, 0, 0, 0);
-    outer->setSpacing(0);
+    if (m_layoutStyle == LayoutHorizontal)
+        return makeBoxes<QHBoxLayout>(margin, spacing);
+    if (m_layoutStyle != LayoutFlow)
+        return makeBoxes<QVBoxLayout>(margin, spacing);
+    m_itemLayout = new FlowLayout(nullptr, margin, spacing, spacing);
+    return m_itemLayout;
+}
+
+/// Makes the layout of the items, and the one round it that keeps them together at the start of a
+/// row or a column.
+template<typename Box>
+QLayout *ScrollAreaNG::makeBoxes(int margin, int spacing)
+{
+    Box *const items = makeBox<Box>(margin, spacing);
+    Box *const outer = makeBox<Box>(0, 0);
     outer->addLayout(items);
     outer->addStretch(0);
+    m_itemLayout = items;
     return outer;
 }
 
@@ -80,7 +103,7 @@ void ScrollAreaNG::setPolicies(Qt::ScrollBarPolicy along)
     setHorizontalScrollBarPolicy(row ? along : Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(row ? Qt::ScrollBarAlwaysOff : along);
     const QScrollBar *const bar = row ? horizontalScrollBar() : verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this, &ScrollAreaNG::contentScrolled);
+    m_scrolling = connect(bar, &QScrollBar::valueChanged, this, &ScrollAreaNG::reportScrolled);
 }
 
 ScrollAreaNGItem *ScrollAreaNG::listItemAt(int index) const
@@ -90,7 +113,7 @@ ScrollAreaNGItem *ScrollAreaNG::listItemAt(int index) const
 
 int ScrollAreaNG::listItemIndexOf(ScrollAreaNGItem *listItem) const
 {
-    return listItem ? m_items.indexOf(listItem) : -1;
+    return positionOf(listItem, m_items);
 }
 
 int ScrollAreaNG::listItemCurrentIndex() const
@@ -127,25 +150,22 @@ ScrollAreaNGItem *ScrollAreaNG::listItemTakeAt(int index)
 
 void ScrollAreaNG::listItemAppend(ScrollAreaNGItem *listItem)
 {
-    const QPointer<ScrollAreaNGItem> item = listItem;
-    if (!add(listItem))
-        return;
-    refreshItemStates();
-    if (item)
-        item->setVisible(true);
+    if (add(listItem))
+        refreshAndShow(listItem);
 }
 
 void ScrollAreaNG::listItemAppend(QList<ScrollAreaNGItem *> listItems)
 {
+    const QPointer<ScrollAreaNG> self(this);
+    const QList<QPointer<ScrollAreaNGItem>> guarded(listItems.cbegin(), listItems.cend());
     QList<QPointer<ScrollAreaNGItem>> added;
-    for (ScrollAreaNGItem *item : qAsConst(listItems)) {
-        if (add(item))
+    for (const QPointer<ScrollAreaNGItem> &item : guarded) {
+        if (self && add(item))
             added.append(item);
     }
-    const QPointer<ScrollAreaNG> self(this);
     for (const QPointer<ScrollAreaNGItem> &item : qAsConst(added)) {
-        if (item)
-            item->setVisible(true);
+        if (self)
+            showListed(item);
     }
     if (self)
         refreshItemStates();
@@ -153,25 +173,29 @@ void ScrollAreaNG::listItemAppend(QList<ScrollAreaNGItem *> listItems)
 
 void ScrollAreaNG::listItemInsert(int index, ScrollAreaNGItem *listItem)
 {
-    const QPointer<ScrollAreaNGItem> item = listItem;
     const int place = qBound(0, index, m_items.size());
     if (!add(listItem))
         return;
-    for (int i = m_items.size() - 1; i > place; --i)
+    for (int i = listItemIndexOf(listItem); i > place; --i)
         swapWithNext(i - 1);
-    refreshItemStates();
-    if (item)
-        item->setVisible(true);
+    refreshAndShow(listItem);
 }
 
-/// At the end of the list, hidden. False if there is nothing to add.
-bool ScrollAreaNG::add(ScrollAreaNGItem *item)
+/// At the end of the list, hidden. False if there is nothing to add, or nothing left of it: an item
+/// may do anything when it is hidden or gets its parent.
+bool ScrollAreaNG::add(ScrollAreaNGItem *listItem)
 {
-    if (!item || m_items.contains(item))
+    if (!listItem || !m_itemLayout || listItemIndexOf(listItem) >= 0)
         return false;
+    const QPointer<ScrollAreaNG> self(this);
+    const QPointer<ScrollAreaNGItem> item(listItem);
     item->setVisible(false);
+    if (!self || !item || !m_itemLayout || listItemIndexOf(item) >= 0)
+        return false;
     m_items.append(item);
     m_itemLayout->addWidget(item);
+    if (!self || listItemIndexOf(item) < 0)
+        return false;
     connect(this, &ScrollAreaNG::contentScrolled, item, &ScrollAreaNGItem::contentScrolled);
     connect(item, &ScrollAreaNGItem::listItemSetCurrent, this, &ScrollAreaNG::listItemSetCurrent,
             Qt::UniqueConnection);
@@ -180,30 +204,54 @@ bool ScrollAreaNG::add(ScrollAreaNGItem *item)
     return true;
 }
 
+void ScrollAreaNG::refreshAndShow(ScrollAreaNGItem *listItem)
+{
+    const QPointer<ScrollAreaNG> self(this);
+    const QPointer<ScrollAreaNGItem> item(listItem);
+    refreshItemStates();
+    if (self)
+        showListed(item);
+}
+
+/// One that a listener has taken out by now is its new owner's to show.
+void ScrollAreaNG::showListed(ScrollAreaNGItem *item)
+{
+    if (listItemIndexOf(item) >= 0)
+        item->setVisible(true);
+}
+
 /// Takes the entry at \a index out of list and layout, and cuts it off from the area.
 void ScrollAreaNG::release(int index)
 {
     const QPointer<ScrollAreaNGItem> item = m_items.takeAt(index);
     if (!item)
         return;
-    m_itemLayout->removeWidget(item);
-    disconnect(this, &ScrollAreaNG::contentScrolled, item, &ScrollAreaNGItem::contentScrolled);
-    disconnect(item, nullptr, this, nullptr);
+    if (m_itemLayout)
+        m_itemLayout->removeWidget(item);
+    cutOff(*item);
+}
+
+/// In both directions, so that an item which is added again hears everything once.
+void ScrollAreaNG::cutOff(ScrollAreaNGItem &item)
+{
+    disconnect(this, &ScrollAreaNG::contentScrolled, &item, &ScrollAreaNGItem::contentScrolled);
+    disconnect(&item, nullptr, this, nullptr);
 }
 
 void ScrollAreaNG::listItemDelete(ScrollAreaNGItem *listItem)
 {
-    const int index = listItemIndexOf(listItem);
-    if (index < 0)
-        return;
-    release(index);
-    listItem->deleteLater();
-    refreshItemStates();
+    listItemDeleteIndex(listItemIndexOf(listItem));
 }
 
 void ScrollAreaNG::listItemDeleteIndex(int index)
 {
-    listItemDelete(listItemAt(index));
+    if (index < 0 || index >= m_items.size())
+        return;
+    const QPointer<ScrollAreaNGItem> item = m_items.at(index);
+    release(index);
+    if (item)
+        item->deleteLater();
+    refreshItemStates();
 }
 
 void ScrollAreaNG::listItemDeleteAll()
@@ -248,9 +296,10 @@ void ScrollAreaNG::swapWithNext(int index)
 {
     QWidget *const left = m_items.at(index);
     QWidget *const right = m_items.at(index + 1);
-    if (left && right)
+    if (left && right && m_itemLayout) {
         swapIn(*m_itemLayout, left, right);
-    m_itemLayout->invalidate();
+        m_itemLayout->invalidate();
+    }
     m_items.swapItemsAt(index, index + 1);
 }
 
@@ -279,15 +328,28 @@ void ScrollAreaNG::reportCurrent()
         Q_EMIT currentItemChanged(m_currentItem);
 }
 
-/// The layout has to be settled before an item is scrolled into view.
+/// The layout has to be settled before an item is scrolled into view. The list is told of it when
+/// both bars have moved, since Qt goes on to the second one though a listener has deleted the area.
 void ScrollAreaNG::showCurrent()
 {
     if (!m_currentItem)
         return;
     const QPointer<ScrollAreaNG> self(this);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    if (self && m_currentItem)
-        ensureWidgetVisible(m_currentItem, visibleMargin, visibleMargin);
+    if (!self || !m_currentItem || !widget())
+        return;
+    m_holdsScrolled = true;
+    ensureWidgetVisible(m_currentItem, visibleMargin, visibleMargin);
+    m_holdsScrolled = false;
+    if (std::exchange(m_hasScrolled, false))
+        Q_EMIT contentScrolled();
+}
+
+void ScrollAreaNG::reportScrolled()
+{
+    m_hasScrolled = m_holdsScrolled;
+    if (!m_holdsScrolled)
+        Q_EMIT contentScrolled();
 }
 
 void ScrollAreaNG::listItemSetChecked(ScrollAreaNGItem *listItem)
@@ -346,7 +408,10 @@ bool ScrollAreaNG::refreshIndex(int index)
 
 bool ScrollAreaNG::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Scroll)
-        Q_EMIT contentScrolled();
-    return QScrollArea::eventFilter(watched, event);
+    const bool isDone = QScrollArea::eventFilter(watched, event);
+    if (event->type() != QEvent::Scroll)
+        return isDone;
+    const QPointer<ScrollAreaNG> self(this);
+    Q_EMIT contentScrolled();
+    return isDone || !self; // with the area goes the page that would be next
 }

@@ -1,5 +1,7 @@
 #include "Pelorin/containers/stackWidget.h"
 
+#include "Pelorin/containers/Position_p.h"
+
 #include <QVBoxLayout>
 
 stackWidget::stackWidget(QWidget *parent)
@@ -20,7 +22,7 @@ QWidget *stackWidget::widgetAt(int index) const
 
 int stackWidget::indexOf(QWidget *widget) const
 {
-    return widget ? m_pages.indexOf(widget) : -1;
+    return positionOf(widget, m_pages);
 }
 
 int stackWidget::addWidget(QWidget *widget)
@@ -63,14 +65,15 @@ void stackWidget::setCurrentIndex(int index)
 {
     if (index < 0 || index >= m_pages.size() || index == m_currentPageIndex)
         return;
-    const QPointer<stackWidget> self(this); // a page may do anything when it is shown
-    const QList<QPointer<QWidget>> pages = m_pages;
-    for (int i = 0; i < pages.size(); ++i) {
-        if (pages.at(i))
-            pages.at(i)->setVisible(i == index);
+    // A page may do anything when it is shown or hidden. If it selects, its choice is the later one.
+    const QPointer<stackWidget> self(this);
+    const int before = m_currentPageIndex;
+    for (int i = 0; i < m_pages.size(); ++i) {
+        if (m_pages.at(i))
+            m_pages.at(i)->setVisible(i == index);
+        if (!self || m_currentPageIndex != before)
+            return;
     }
-    if (!self)
-        return;
     m_currentPageIndex = index;
     Q_EMIT currentChanged(index);
 }

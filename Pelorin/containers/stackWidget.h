@@ -11,7 +11,8 @@
 /// high as the tallest one: so it can stand over a stretch in a scroll area.
 ///
 /// The pages become children of the stack. One that is deleted from outside leaves an entry behind
-/// that counts, and whose page is null.
+/// that counts, and whose page is null; removeWidgetAt() takes the entry out. A listener may change
+/// or delete the stack at any signal.
 class PELORIN_EXPORT stackWidget : public QWidget
 {
     Q_OBJECT
@@ -33,7 +34,8 @@ public:
     int indexOf(QWidget *widget) const;
 
     /// Adds a page at the end and returns its position. It is neither shown nor hidden: select a page
-    /// when all are there. Null is ignored.
+    /// when all are there. Null is ignored, with -1 as the answer. A page that is there already gets a
+    /// second entry, and its first position is returned.
     int addWidget(QWidget *widget);
     /// Adds a page before the one at \a index, which is limited to the entries that there are, and
     /// returns its position.
@@ -54,7 +56,8 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     /// Hides all pages but the one at \a index, and emits currentChanged(). Ignored out of range, and
-    /// for the current index.
+    /// for the current index, also if another page stands there since. Where a page selects another
+    /// one as it is shown or hidden, that later selection holds and is the only one that is told.
     void setCurrentIndex(int index);
     /// The same for a page; ignored for a widget that is none.
     void setCurrentWidget(QWidget *widget);

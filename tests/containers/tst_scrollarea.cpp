@@ -17,6 +17,8 @@ private Q_SLOTS:
     void setsPropertiesOfThePage();
     void isAsWideAsItsPageNeeds_data();
     void isAsWideAsItsPageNeeds();
+    void keepsItsWidthAtOtherEvents();
+    void livesWithoutItsPage();
 };
 
 void tst_ScrollArea::setsUpAWhitePage_data()
@@ -94,6 +96,39 @@ void tst_ScrollArea::isAsWideAsItsPageNeeds()
 
     const int needed = area.widget()->minimumSizeHint().width() + area.verticalScrollBar()->width();
     QCOMPARE(area.minimumWidth(), noHorizontalScroll ? needed : 0);
+}
+
+void tst_ScrollArea::keepsItsWidthAtOtherEvents()
+{
+    ScrollArea area(true);
+    QWidget other;
+    other.installEventFilter(&area);
+    area.setMinimumWidth(7);
+
+    QResizeEvent resize(QSize(10, 10), QSize(20, 20));
+    QApplication::sendEvent(&other, &resize);
+    QEvent move(QEvent::Move);
+    QApplication::sendEvent(area.widget(), &move);
+    QCOMPARE(area.minimumWidth(), 7);
+
+    QApplication::sendEvent(area.widget(), &resize);
+    QVERIFY(area.minimumWidth() != 7);
+}
+
+void tst_ScrollArea::livesWithoutItsPage()
+{
+    ScrollArea area(true);
+    QWidget other;
+    auto *const column = new QVBoxLayout;
+    area.setLayout(nullptr); // in silence
+
+    area.setWidget(new QLabel); // deletes the page
+    area.setLayout(column);
+    area.resize(300, 200);
+
+    QVERIFY(!area.setWidgetProperty("toolTip", QStringLiteral("page")));
+    QCOMPARE(column->parent(), nullptr);
+    other.setLayout(column); // it was left to the caller
 }
 
 PELORIN_TEST_MAIN(tst_ScrollArea)

@@ -11,6 +11,8 @@
 #include <QRandomGenerator>
 #include <QVBoxLayout>
 
+#include <functional>
+
 namespace {
 
 /// A stack of three shown pages that has a size of its own.
@@ -41,6 +43,18 @@ public:
         }
         return result;
     }
+};
+
+/// A page that does something when it is shown or hidden.
+class Speaking : public QWidget
+{
+public:
+    std::function<void()> whenShown = [] {};
+    std::function<void()> whenHidden = [] {};
+
+protected:
+    void showEvent(QShowEvent *) override { whenShown(); }
+    void hideEvent(QHideEvent *) override { whenHidden(); }
 };
 
 /// What a stack is, without a widget.
@@ -92,7 +106,15 @@ private Q_SLOTS:
     void takesAPageOutByIndex();
     void countsAPageThatWasDeleted();
     void ignoresNullAndStrangers();
+    void addsAPageTwice();
+    void findsNoDeletedPage();
+    void mayBeDeletedWhileItReports_data();
     void mayBeDeletedWhileItReports();
+    void mayBeDeletedByAPageThatIsShown();
+    void mayBeChangedWhileItReports();
+    void leavesTheLastWordToAPage_data();
+    void leavesTheLastWordToAPage();
+    void goesOnWhenAPageTakesItselfOut();
     void freesItsPages();
     void behavesLikeItsModel_data();
     void behavesLikeItsModel();
@@ -345,14 +367,137 @@ void tst_StackWidget::ignoresNullAndStrangers()
     QCOMPARE(recorder.taken(), QStringList());
 }
 
+void tst_StackWidget::addsAPageTwice()
+{
+    Stack stack;
+    QWidget *const page = stack.widgetAt(1);
+
+    QCOMPARE(stack.addWidget(page), 1);
+    QCOMPARE(stack.count(), 4);
+    QCOMPARE(stack.widgetAt(3), page);
+
+    stack.removeWidget(page); // its first entry
+    QCOMPARE(stack.count(), 3);
+    QCOMPARE(stack.indexOf(page), 2);
+}
+
+void tst_StackWidget::findsNoDeletedPage()
+{
+    Stack stack;
+    stack.setCurrentIndex(0);
+    QWidget *const page = stack.widgetAt(1);
+    delete page;
+    SignalRecorder recorder(&stack);
+
+    QCOMPARE(stack.indexOf(page), -1);
+    stack.setCurrentWidget(page);
+    stack.removeWidget(page);
+
+    QCOMPARE(stack.count(), 3);
+    QCOMPARE(recorder.taken(), QStringList());
+}
+
+void tst_StackWidget::mayBeDeletedWhileItReports_data()
+{
+    QTest::addColumn<bool>("isRemoval");
+
+    QTest::newRow("a selection") << false;
+    QTest::newRow("a removal") << true;
+}
+
 void tst_StackWidget::mayBeDeletedWhileItReports()
 {
+    QFETCH(bool, isRemoval);
     QPointer<Stack> stack = new Stack;
-    connect(stack.data(), &stackWidget::currentChanged, this, [stack] { delete stack; });
+    stack->setCurrentIndex(0);
+    const auto vanish = [stack] { delete stack; };
+    connect(stack.data(), isRemoval ? &stackWidget::widgetRemoved : &stackWidget::currentChanged,
+            this, vanish);
+
+    if (isRemoval)
+        stack->removeWidgetAt(2);
+    else
+        stack->setCurrentIndex(1);
+
+    QVERIFY(stack.isNull());
+}
+
+void tst_StackWidget::mayBeDeletedByAPageThatIsShown()
+{
+    QPointer<Stack> stack = new Stack;
+    stack->setCurrentIndex(0);
+    Speaking page;
+    stack->insertWidget(1, &page);
+    page.setParent(nullptr); // outlives the stack
+    page.setVisible(false);
+    page.whenShown = [stack] { delete stack; };
+    TestCase::tolerateMessages(QtWarningMsg, QStringLiteral("This plugin does not support"));
 
     stack->setCurrentIndex(1);
 
     QVERIFY(stack.isNull());
+}
+
+void tst_StackWidget::mayBeChangedWhileItReports()
+{
+    Stack stack;
+    QWidget *const last = stack.widgetAt(2);
+    stack.setCurrentIndex(0);
+    SignalRecorder recorder(&stack);
+    connect(&stack, &stackWidget::widgetRemoved, this, [&stack] { stack.setCurrentIndex(1); });
+    connect(&stack, &stackWidget::currentChanged, this,
+            [&stack, last] { stack.removeWidget(last); });
+
+    stack.removeWidgetAt(0);
+
+    QCOMPARE(stack.count(), 1);
+    QCOMPARE(stack.currentIndex(), 1); // where no page is left
+    QCOMPARE(recorder.taken(),
+             list({ "widgetRemoved(0)", "currentChanged(1)", "widgetRemoved(1)" }));
+}
+
+void tst_StackWidget::leavesTheLastWordToAPage_data()
+{
+    QTest::addColumn<int>("choice");
+
+    QTest::newRow("one before") << 0;
+    QTest::newRow("itself") << 1;
+    QTest::newRow("one behind") << 3;
+}
+
+void tst_StackWidget::leavesTheLastWordToAPage()
+{
+    QFETCH(int, choice);
+    Stack stack;
+    stack.setCurrentIndex(2);
+    auto *const page = new Speaking;
+    page->hide();
+    stack.insertWidget(1, page); // the index stays 2, and the page that was there is 3 now
+    page->whenShown = [&stack, choice] { stack.setCurrentIndex(choice); };
+    SignalRecorder recorder(&stack);
+
+    stack.setCurrentIndex(1);
+
+    QCOMPARE(stack.currentIndex(), choice);
+    QCOMPARE(stack.shown(), QList<int>{ choice });
+    QCOMPARE(recorder.taken(), QStringList{ QStringLiteral("currentChanged(%1)").arg(choice) });
+}
+
+void tst_StackWidget::goesOnWhenAPageTakesItselfOut()
+{
+    Stack stack(0);
+    auto *const shy = new Speaking;
+    stack.addWidget(shy);
+    stack.addWidget(Stack::makePage(20));
+    stack.addWidget(Stack::makePage(20));
+    stack.setCurrentIndex(0);
+    shy->whenHidden = [&stack, shy] { stack.removeWidget(shy); };
+
+    stack.setCurrentIndex(1);
+
+    QCOMPARE(stack.count(), 2);
+    QCOMPARE(stack.currentIndex(), 1);
+    QVERIFY(!stack.currentWidget()->isHidden());
 }
 
 void tst_StackWidget::freesItsPages()
