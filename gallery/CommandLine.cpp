@@ -1,6 +1,7 @@
 #include "gallery/CommandLine.h"
 
 #include "gallery/Pages.h"
+#include "gallery/application/Devices.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -24,19 +25,25 @@ QString helpText(const QCommandLineParser &parser)
 CommandLine CommandLine::parse(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Shows the widgets of Pelorin."));
-    const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Show the page NAME."),
+    parser.setApplicationDescription(QStringLiteral(
+        "A control application for simulated lasers, and the widgets it is made of."));
+    const QCommandLineOption page(QStringLiteral("page"),
+                                  QStringLiteral("Show the device or topic NAME."),
                                   QStringLiteral("NAME"));
     const QCommandLineOption list(QStringLiteral("list"),
-                                  QStringLiteral("Print the names of the pages."));
+                                  QStringLiteral("Print the names of the devices and topics."));
     const QCommandLineOption snapshot(
         QStringLiteral("snapshot"),
         QStringLiteral(
-            "Write a picture of every page, or of the page NAME, to DIR; needs no display."),
+            "Write a picture of each of them, or of NAME alone, to DIR; needs no display."),
         QStringLiteral("DIR"));
+    const QCommandLineOption settings(
+        QStringLiteral("settings"),
+        QStringLiteral("Keep the state of the window in FILE, not among the user's settings."),
+        QStringLiteral("FILE"));
     const QCommandLineOption help({ QStringLiteral("h"), QStringLiteral("help") },
                                   QStringLiteral("Print this text."));
-    parser.addOptions({ page, list, snapshot, help });
+    parser.addOptions({ page, list, snapshot, settings, help });
 
     CommandLine result;
     const bool understood = parser.parse(arguments);
@@ -49,15 +56,16 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     }
     result.page = parser.value(page);
     result.directory = parser.value(snapshot);
+    result.settings = parser.value(settings);
     if (parser.isSet(help)) {
         result.action = Action::PrintHelp;
         result.text = helpText(parser);
     } else if (parser.isSet(list)) {
         result.action = Action::PrintPages;
-    } else if (parser.isSet(page) && !findPage(result.page)) {
+    } else if (parser.isSet(page) && !findPage(result.page) && findDevice(result.page) < 0) {
         result.action = Action::Complain;
-        result.text =
-            QStringLiteral("There is no page '%1'; --list prints the names.").arg(result.page);
+        result.text = QStringLiteral("There is no device or topic '%1'; --list prints the names.")
+                          .arg(result.page);
     } else if (parser.isSet(snapshot)) {
         result.action = Action::TakeSnapshots;
     }

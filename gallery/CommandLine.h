@@ -10,7 +10,8 @@ struct CommandLine
     enum class Action { ShowWindow, PrintPages, TakeSnapshots, PrintHelp, Complain };
 
     Action action = Action::ShowWindow;
-    QString page;      ///< the page to show or to take; empty for the first, or for all
+    QString page;      ///< the device or topic to show or to take; empty for the first, or for all
+    QString settings;  ///< the file in which the window keeps its state; empty for the user's own
     QString directory; ///< for the snapshots
     QString text;      ///< the help, or what is wrong, on one line
 

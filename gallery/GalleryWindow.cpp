@@ -1,63 +1,27 @@
 #include "gallery/GalleryWindow.h"
 
+#include "gallery/Appearance.h"
 #include "gallery/PageParts.h"
 #include "gallery/Pages.h"
 
 #include <Pelorin/CenterTabWidget>
 #include <Pelorin/DockWidget>
 
-#include <QApplication>
-#include <QHBoxLayout>
+#include <QFrame>
 #include <QLabel>
 #include <QListWidget>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-/// Resources of a static library have to be asked for, and from outside of any namespace.
-static void initResources()
-{
-    Q_INIT_RESOURCE(gallery);
-}
-
 namespace {
 
-constexpr int sidebarWidth = 216;
 const QSize preferredSize(1440, 900);
-const char mainWindowProperty[] = "APPLICATIONWINDOWPTR";
-
-/// The gallery's own parts, in the colours of the library's sheet, which is installed on the
-/// application.
-const QString windowSheet = QStringLiteral(R"(
-DockWidget { font-family: "Calibri"; font-size: 14px; color: #444; }
-DockWidget::title { background-color: #DDD; padding: 6px 16px; }
-CenterTabWidget > QTabWidget > QTabBar::tab {
-    font-family: "Calibri"; font-size: 15px; color: #666; background-color: #DDD;
-    padding: 6px 16px; border: none; border-right: 1px solid #F6F6F6; border-top: 3px solid #DDD;
-}
-CenterTabWidget > QTabWidget > QTabBar::tab:hover { background-color: #ED6E00; color: #FFF; }
-CenterTabWidget > QTabWidget > QTabBar::tab:selected {
-    background-color: #F6F6F6; color: #444; border-top: 3px solid #87212E;
-}
-#sidebar { background-color: #87212E; }
-#brand { font-family: "Tavrin"; font-size: 26px; color: #FFF; }
-#sidebar QListWidget {
-    background-color: transparent; border: none; outline: 0px;
-    font-family: "Calibri"; font-size: 16px; color: #DDD;
-}
-#sidebar QListWidget::item { padding: 8px 16px; border: none; }
-#sidebar QListWidget::item:hover { background-color: #ED6E00; color: #FFF; }
-#sidebar QListWidget::item:selected { background-color: #FFF; color: #87212E; }
-#ground, #page { background-color: #F6F6F6; }
-#card { background-color: #FFF; border: 1px solid #DDD; border-radius: 6px; }
-#signalLog { background-color: #F6F6F6; color: #444; font-family: "DejaVu Sans Mono", monospace;
-    font-size: 12px; }
-)");
 
 /// The window itself builds the welcome page, so the picture has to be there before it.
 QWidget *withResources(QWidget *parent)
 {
-    initResources();
+    Appearance::loadResources();
     return parent;
 }
 
@@ -67,10 +31,8 @@ GalleryWindow::GalleryWindow(QWidget *parent)
     : TavrinMainWindow(withResources(parent))
     , m_tabs(centerTabWidget()->findChild<QTabWidget *>())
 {
-    qApp->setProperty(mainWindowProperty,
-                      QVariant::fromValue(static_cast<TavrinMainWindow *>(this)));
-    setWindowTitle(QStringLiteral("Pelorin Gallery"));
-    setStyleSheet(windowSheet);
+    setWindowTitle(QStringLiteral("Pelorin: widgets"));
+    setStyleSheet(Appearance::windowSheet());
     resize(preferredSize);
 
     createGenericDockWidget(makeSidebar(), QStringLiteral("Topics"), Qt::LeftDockWidgetArea, true);
@@ -81,7 +43,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
 
 GalleryWindow::~GalleryWindow()
 {
-    qApp->setProperty(mainWindowProperty, QVariant());
+    Appearance::withdraw(this);
 }
 
 bool GalleryWindow::showPage(const QString &name)
@@ -95,25 +57,12 @@ bool GalleryWindow::showPage(const QString &name)
 
 QWidget *GalleryWindow::makeSidebar()
 {
-    auto *sidebar = new QFrame;
-    sidebar->setObjectName(QStringLiteral("sidebar"));
-    sidebar->setMinimumWidth(sidebarWidth);
-
-    auto *brand = new QLabel(QStringLiteral("Pelorin"));
-    brand->setObjectName(QStringLiteral("brand"));
+    QVBoxLayout *layout = nullptr;
+    QFrame *sidebar = Appearance::sidebar(layout);
     m_topics = new QListWidget;
     m_topics->setObjectName(QStringLiteral("topics"));
     for (const Page &page : pages())
         m_topics->addItem(page.title);
-
-    auto *layout = new QVBoxLayout(sidebar);
-    layout->setContentsMargins(0, 24, 0, 16);
-    layout->setSpacing(0);
-    auto *brandLayout = new QHBoxLayout;
-    brandLayout->setContentsMargins(16, 0, 16, 0);
-    brandLayout->addWidget(brand);
-    layout->addLayout(brandLayout);
-    layout->addSpacing(24);
     layout->addWidget(m_topics, 1);
     return sidebar;
 }
@@ -148,6 +97,7 @@ void GalleryWindow::showRow(int row)
         centerTabWidget()->selectCenterWidget(page);
         return;
     }
+    Appearance::announce(this);
     QWidget *page = makePage(pages().at(row));
     m_built.insert(row, page);
     createSystemWidget(page, pages().at(row).title, false, true);

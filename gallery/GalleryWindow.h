@@ -9,14 +9,13 @@ class QListWidget;
 class QTabWidget;
 struct Page;
 
-/// The window of the gallery, put together as an application does it: the topics stand in a dock,
-/// and the page of a topic opens in a tab when it is first chosen.
+/// The reference: every widget in every state. The topics stand in a dock, and the page of a topic
+/// opens in a tab when it is first chosen.
 class GalleryWindow : public TavrinMainWindow
 {
     Q_OBJECT
 
 public:
-    /// Stores itself as the main window of the application, so that popups of the pages follow it.
     explicit GalleryWindow(QWidget *parent = nullptr);
     ~GalleryWindow() override;
 

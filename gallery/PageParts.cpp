@@ -1,5 +1,7 @@
 #include "gallery/PageParts.h"
 
+#include <Pelorin/HorizontalSlider>
+
 #include <QApplication>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -29,6 +31,19 @@ QLabel *label(const QString &text, const char *type)
     auto *result = new QLabel(text);
     result->setProperty("type", QString::fromLatin1(type));
     return result;
+}
+
+HorizontalSlider *slider(const char *title, const char *unit, double min, double max, double value,
+                         int decimals)
+{
+    constexpr int sideMargin = 12;
+    auto *slider = new HorizontalSlider(sideMargin, ScaleSliderNG::ScaleLinear, nullptr);
+    slider->titleLabel->setText(QString::fromUtf8(title));
+    slider->unitLabel->setText(QString::fromUtf8(unit));
+    slider->setValuePrecision(decimals);
+    slider->setRange(min, max, true);
+    slider->setValue(value);
+    return slider;
 }
 
 QVBoxLayout *named(const char *name, QWidget *widget)

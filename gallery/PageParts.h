@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class HorizontalSlider;
 class QFrame;
 class QLabel;
 class QLayout;
@@ -17,6 +18,10 @@ constexpr int gap = 16;
 
 /// A label in one of the theme's types: "heading", "label", "text", "text-bold", ...
 QLabel *label(const QString &text, const char *type);
+
+/// A horizontal slider from \a min to \a max that stands at \a value.
+HorizontalSlider *slider(const char *title, const char *unit, double min, double max, double value,
+                         int decimals);
 
 /// \a widget at its own size under a \a name.
 QVBoxLayout *named(const char *name, QWidget *widget);

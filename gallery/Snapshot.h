@@ -3,7 +3,8 @@
 
 #include <QString>
 
-/// Writes \a directory/NAME.png for the page called \a page, or for every page if \a page is empty.
+/// Writes \a directory/NAME.png for the device or topic called \a page, or for each if \a page is empty.
+/// A device is taken as it emits light.
 /// The directory is made if it is not there. Returns what went wrong, on one line, or an empty
 /// text.
 QString takeSnapshots(const QString &directory, const QString &page);

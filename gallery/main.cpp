@@ -2,13 +2,16 @@
 #include "gallery/GalleryWindow.h"
 #include "gallery/Pages.h"
 #include "gallery/Snapshot.h"
+#include "gallery/application/InstrumentWindow.h"
 
 #include <Pelorin/Pelorin>
 
 #include <QApplication>
 #include <QLoggingCategory>
+#include <QStandardPaths>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -61,6 +64,8 @@ int runWithoutDisplay(int argc, char *argv[])
         print(command.text);
         return 0;
     case CommandLine::Action::PrintPages:
+        for (const Device &device : devices())
+            print(device.name);
         for (const Page &page : pages())
             print(page.name);
         return 0;
@@ -79,6 +84,42 @@ int runWithoutDisplay(int argc, char *argv[])
     }
 }
 
+/// Where the window keeps its state.
+QString settingsFile(const CommandLine &command)
+{
+    if (!command.settings.isEmpty())
+        return command.settings;
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)
+           + QStringLiteral("/layout.ini");
+}
+
+/// The application; the reference opens beside it when it is asked for.
+int runApplication(const CommandLine &command)
+{
+    InstrumentWindow window(settingsFile(command));
+    std::unique_ptr<GalleryWindow> reference;
+    QObject::connect(&window, &InstrumentWindow::referenceRequested, &window, [&reference] {
+        if (!reference)
+            reference = std::make_unique<GalleryWindow>();
+        reference->show();
+        reference->raise();
+        reference->activateWindow();
+    });
+    if (!command.page.isEmpty())
+        window.showDevice(command.page);
+    window.run();
+    window.show();
+    return QApplication::exec();
+}
+
+int runReference(const CommandLine &command)
+{
+    GalleryWindow window;
+    window.showPage(command.page);
+    window.show();
+    return QApplication::exec();
+}
+
 int showWindow(int argc, char *argv[])
 {
     QApplication app(argc, argv); // takes Qt's own options out of the arguments
@@ -86,11 +127,7 @@ int showWindow(int argc, char *argv[])
     if (command.action == CommandLine::Action::Complain)
         return complain(command.text);
     prepare(app);
-    GalleryWindow window;
-    if (!command.page.isEmpty())
-        window.showPage(command.page);
-    window.show();
-    return QApplication::exec();
+    return findPage(command.page) ? runReference(command) : runApplication(command);
 }
 
 } // namespace

@@ -40,18 +40,6 @@ protected:
     }
 };
 
-HorizontalSlider *makeSlider(const char *title, const char *unit, double min, double max,
-                             double value)
-{
-    auto *slider = new HorizontalSlider(12, ScaleSliderNG::ScaleLinear, nullptr);
-    slider->titleLabel->setText(QLatin1String(title));
-    slider->unitLabel->setText(QLatin1String(unit));
-    slider->setValuePrecision(1);
-    slider->setRange(min, max, true);
-    slider->setValue(value);
-    return slider;
-}
-
 WavelengthChart *makeChart()
 {
     auto *chart = new WavelengthChart(0, nullptr);
@@ -93,9 +81,10 @@ QWidget *buildChartPage()
     auto *log = new SignalLog;
     logSignals(chart, log);
 
-    HorizontalSlider *const wavelength = makeSlider("Wavelength", "nm", 400.0, 700.0, 546.0);
-    HorizontalSlider *const bandwidth = makeSlider("Bandwidth", "nm", 1.0, 50.0, 10.0);
-    HorizontalSlider *const power = makeSlider("Power", "mW", 0.0, 100.0, 40.0);
+    HorizontalSlider *const wavelength =
+        PageParts::slider("Wavelength", "nm", 400.0, 700.0, 546.0, 1);
+    HorizontalSlider *const bandwidth = PageParts::slider("Bandwidth", "nm", 1.0, 50.0, 10.0, 1);
+    HorizontalSlider *const power = PageParts::slider("Power", "mW", 0.0, 100.0, 40.0, 1);
     Spectrometer *const spectrometer = &page->spectrometer;
     const auto follow = [=] {
         spectrometer->setWavelength(wavelength->slider->value0());

@@ -25,18 +25,6 @@ namespace {
 constexpr int blockSize = 400;
 constexpr int blockMs = 250;
 
-HorizontalSlider *makeSlider(const char *title, const char *unit, double min, double max,
-                             double value, int decimals)
-{
-    auto *slider = new HorizontalSlider(12, ScaleSliderNG::ScaleLinear, nullptr);
-    slider->titleLabel->setText(QString::fromUtf8(title));
-    slider->unitLabel->setText(QString::fromUtf8(unit));
-    slider->setValuePrecision(decimals);
-    slider->setRange(min, max, true);
-    slider->setValue(value);
-    return slider;
-}
-
 QFrame *viewCard(const QString &caption, QWidget *view, const QList<QWidget *> &controls)
 {
     auto *column = new QVBoxLayout;
@@ -51,7 +39,7 @@ QFrame *viewCard(const QString &caption, QWidget *view, const QList<QWidget *> &
 QFrame *makePulses()
 {
     auto *view = new PulsesView;
-    HorizontalSlider *const interval = makeSlider("Interval", "µs", 1.0, 100.0, 12.5, 1);
+    HorizontalSlider *const interval = PageParts::slider("Interval", "µs", 1.0, 100.0, 12.5, 1);
     QObject::connect(interval, &HorizontalSlider::valueChanging, view,
                      &PulsesView::setPulseInterval);
     return viewCard(QStringLiteral("PulsesView"), view, { interval });
@@ -60,7 +48,7 @@ QFrame *makePulses()
 QFrame *makeSubPulses()
 {
     auto *view = new SubPulsesView;
-    HorizontalSlider *const count = makeSlider("Sub-pulses", "", 0.0, 20.0, 5.0, 0);
+    HorizontalSlider *const count = PageParts::slider("Sub-pulses", "", 0.0, 20.0, 5.0, 0);
     QObject::connect(count, &HorizontalSlider::valueChanging, view,
                      [view](double value) { view->setSubPulseCount(qRound(value)); });
     return viewCard(QStringLiteral("SubPulsesView"), view, { count });
@@ -69,7 +57,7 @@ QFrame *makeSubPulses()
 QFrame *makeTrigger()
 {
     auto *view = new TriggerActionView;
-    HorizontalSlider *const count = makeSlider("Pulses", "", 0.0, 50.0, 14.0, 0);
+    HorizontalSlider *const count = PageParts::slider("Pulses", "", 0.0, 50.0, 14.0, 0);
     QObject::connect(count, &HorizontalSlider::valueChanging, view,
                      [view](double value) { view->setPulseCount(qRound(value)); });
     auto *window = new QCheckBox(QStringLiteral("As long as the trigger is high"));
@@ -94,7 +82,7 @@ QFrame *makeQuality()
                         Qt::AlignHCenter);
     }
     auto *live = new QualityIndicator;
-    HorizontalSlider *const value = makeSlider("Quality", "%", 50.0, 100.0, 70.0, 1);
+    HorizontalSlider *const value = PageParts::slider("Quality", "%", 50.0, 100.0, 70.0, 1);
     QObject::connect(value, &HorizontalSlider::valueChanging, live,
                      &QualityIndicator::setQualityValue);
     grid->addWidget(live, 4, 0, Qt::AlignHCenter);

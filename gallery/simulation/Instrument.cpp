@@ -14,6 +14,7 @@ constexpr int blockSteps = 5;
 constexpr double powerMs = 400.0;    // time constant of the power
 constexpr double warmUpMs = 20000.0; // time constant of the figure of merit
 constexpr double tuningNmPerMs = 0.06;
+constexpr double spectrumMarginNm = 50.0;
 constexpr double relativeNoise = 0.004;
 const Simulation::Span bandwidths{ 1.0, 50.0 };
 
@@ -24,16 +25,17 @@ constexpr double blockNoise = 300.0;
 
 } // namespace
 
-Simulation::Instrument::Instrument(quint32 seed, Span wavelengths, Span powers, QObject *parent)
+Simulation::Instrument::Instrument(quint32 seed, Span wavelengths, double nm, Span powers,
+                                   QObject *parent)
     : QObject(parent)
     , m_laser(m_clock)
     , m_random(seed)
-    , m_spectrometer(seed)
+    , m_spectrometer(seed, wavelengths.min - spectrumMarginNm, wavelengths.max + spectrumMarginNm)
     , m_wavelengths(wavelengths)
     , m_powers(powers)
     , m_limits(powers)
     , m_setpoint(powers.min + 0.4 * (powers.max - powers.min))
-    , m_nm(wavelengths.min + 0.4 * (wavelengths.max - wavelengths.min))
+    , m_nm(wavelengths.clamped(nm))
     , m_nmSetpoint(m_nm)
 {
     const double spacing = (wavelengths.max - wavelengths.min) / (channelCount + 1);

@@ -57,8 +57,8 @@ class Instrument : public QObject
 public:
     static constexpr int channelCount = 8;
 
-    /// Switched on, and about to listen. Wavelengths in nm, powers in mW.
-    Instrument(quint32 seed, Span wavelengths, Span powers, QObject *parent = nullptr);
+    /// Switched on, and about to listen, at \a nm. Wavelengths in nm, powers in mW.
+    Instrument(quint32 seed, Span wavelengths, double nm, Span powers, QObject *parent = nullptr);
 
     /// Time passes in it: by itself after run(), or driven.
     Clock &clock() { return m_clock; }

@@ -7,8 +7,6 @@ namespace {
 
 constexpr int points = 2048;
 constexpr int intervalMs = 50;
-constexpr double firstNm = 350.0;
-constexpr double lastNm = 800.0;
 constexpr double resolutionNm = 0.5;
 constexpr double widthToSigma = 2.3548;
 constexpr double noise = 0.02;    // mW/nm
@@ -22,9 +20,11 @@ double bell(double distance, double sigma)
 
 } // namespace
 
-Simulation::Spectrometer::Spectrometer(quint32 seed, QObject *parent)
+Simulation::Spectrometer::Spectrometer(quint32 seed, double firstNm, double lastNm, QObject *parent)
     : QObject(parent)
     , m_random(seed)
+    , m_firstNm(firstNm)
+    , m_lastNm(lastNm)
 {
     m_timer.setInterval(intervalMs);
     connect(&m_timer, &QTimer::timeout, this, [this] { Q_EMIT frameReady(nextFrame()); });
@@ -56,7 +56,7 @@ QVector<QPointF> Simulation::Spectrometer::nextFrame()
     QVector<QPointF> frame;
     frame.reserve(points);
     for (int i = 0; i < points; ++i) {
-        const double nm = firstNm + (lastNm - firstNm) * i / (points - 1);
+        const double nm = m_firstNm + (m_lastNm - m_firstNm) * i / (points - 1);
         const double flicker = noise * (m_random.generateDouble() + m_random.generateDouble());
         frame << QPointF(nm, density(nm) + flicker);
     }

@@ -10,14 +10,15 @@
 namespace Simulation {
 
 /// A spectrometer in front of a tunable laser: the line of the laser with a side peak on either
-/// hand, over noise. It delivers 2,048 points from 350 to 800 nm, in mW/nm, twenty times a second.
+/// hand, over noise. It delivers 2,048 points in mW/nm, twenty times a second.
 class Spectrometer : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The same \a seed gives the same noise.
-    explicit Spectrometer(quint32 seed, QObject *parent = nullptr);
+    /// From \a firstNm to \a lastNm. The same \a seed gives the same noise.
+    explicit Spectrometer(quint32 seed, double firstNm = 350.0, double lastNm = 800.0,
+                          QObject *parent = nullptr);
 
     void start() { m_timer.start(); }
     void stop() { m_timer.stop(); }
@@ -42,6 +43,8 @@ private:
 
     QRandomGenerator m_random;
     QTimer m_timer;
+    const double m_firstNm;
+    const double m_lastNm;
     double m_wavelength = 488.0;
     double m_bandwidth = 10.0;
     double m_power = 40.0;

@@ -77,7 +77,7 @@ private:
 void tst_Instrument::init()
 {
     TestCase::init();
-    m_instrument = std::make_unique<Instrument>(7, wavelengths, powers);
+    m_instrument = std::make_unique<Instrument>(7, wavelengths, 520.0, powers);
 }
 
 void tst_Instrument::cleanup()
@@ -413,7 +413,7 @@ void tst_Instrument::tellsTheSameTwice()
 {
     QStringList told[2];
     for (QStringList &each : told) {
-        Instrument instrument(42, wavelengths, powers);
+        Instrument instrument(42, wavelengths, 520.0, powers);
         QSignalSpy powerReadings(&instrument, &Instrument::powerMeasured);
         QSignalSpy frames(&instrument, &Instrument::frameReady);
         instrument.laser().emitLight(true);

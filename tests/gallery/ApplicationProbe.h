@@ -1,0 +1,71 @@
+#ifndef PELORIN_TESTS_APPLICATIONPROBE_H
+#define PELORIN_TESTS_APPLICATIONPROBE_H
+
+#include "gallery/SignalLog.h"
+#include "gallery/application/InstrumentWindow.h"
+
+#include <Pelorin/DockWidget>
+#include <Pelorin/HorizontalSlider>
+#include <Pelorin/IndicatorButton>
+#include <Pelorin/MainView>
+
+#include <QPushButton>
+#include <QTabWidget>
+
+/// The window of the application with what a test looks at, found as it stands on the screen.
+class ApplicationProbe : public InstrumentWindow
+{
+public:
+    using InstrumentWindow::InstrumentWindow;
+
+    template<class Widget>
+    Widget *find(const char *name = "") const
+    {
+        return findChild<Widget *>(QLatin1String(name));
+    }
+
+    MainView *view(const char *device) const { return find<MainView>(device); }
+    QTabWidget *tabs() const { return find<QTabWidget>(); }
+    QString tabInFront() const { return tabs()->tabText(tabs()->currentIndex()); }
+    QStringList requests() const
+    {
+        return find<SignalLog>("signalLog")
+            ->toPlainText()
+            .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    }
+    DockWidget *dock(const char *title) const { return find<DockWidget>(title); }
+
+    /// A slider of the device that was built first.
+    HorizontalSlider *slider(const char *name) const { return find<HorizontalSlider>(name); }
+    QPushButton *warning() const
+    {
+        for (auto *button : findChildren<QPushButton *>()) {
+            if (button->property("style") == QLatin1String("warning"))
+                return button;
+        }
+        return nullptr;
+    }
+
+    /// The button of a remote control panel, by its text on one line.
+    QPushButton *panelButton(const QString &text) const
+    {
+        for (const auto *panel : findChildren<IndicatorButton *>()) {
+            for (auto *button : panel->findChildren<QPushButton *>()) {
+                if (button->text().replace(QLatin1Char('\n'), QLatin1Char(' ')) == text)
+                    return button;
+            }
+        }
+        return nullptr;
+    }
+
+    /// The middle of the handle, in coordinates of the slider.
+    static QPoint handle(const ScaleSliderNG &slider)
+    {
+        constexpr int handleSize = 35;
+        const double part =
+            (slider.value0() - slider.minimum()) / (slider.maximum() - slider.minimum());
+        return { qRound((slider.width() - handleSize) * part) + handleSize / 2, handleSize / 2 };
+    }
+};
+
+#endif
