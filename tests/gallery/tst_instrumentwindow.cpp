@@ -465,13 +465,13 @@ void tst_InstrumentWindow::keepsFolderAndFilterOfTheChart()
     m_window->showDevice(QStringLiteral("ostrel"));
     auto *chart = m_window->find<WavelengthChart>("chart");
     Q_EMIT chart->sigChartSaveFoldernameChanged(m_dir.path());
-    Q_EMIT chart->sigChartSaveFilterTypeChanged(QStringLiteral("CSV-Table (*.csv)"));
+    Q_EMIT chart->sigChartSaveFilterTypeChanged(QStringLiteral("Data files (*.csv *.txt)"));
     m_window->close();
 
     const StateStore store(file());
 
     QCOMPARE(store.text(QStringLiteral("chart-folder")), m_dir.path());
-    QCOMPARE(store.text(QStringLiteral("chart-filter")), QStringLiteral("CSV-Table (*.csv)"));
+    QCOMPARE(store.text(QStringLiteral("chart-filter")), QStringLiteral("Data files (*.csv *.txt)"));
 }
 
 void tst_InstrumentWindow::keepsNothingWithoutAFile()
