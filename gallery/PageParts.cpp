@@ -3,6 +3,7 @@
 #include <Pelorin/HorizontalSlider>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -54,6 +55,19 @@ QVBoxLayout *named(const char *name, QWidget *widget)
     layout->addWidget(widget, 0, Qt::AlignLeft);
     layout->addStretch(1);
     return layout;
+}
+
+QHBoxLayout *option(const char *name, bool checked, const std::function<void(bool)> &follow)
+{
+    auto *check = new QCheckBox;
+    check->setProperty("type", QStringLiteral("text"));
+    check->setChecked(checked);
+    QObject::connect(check, &QCheckBox::toggled, check, follow);
+    auto *row = new QHBoxLayout;
+    row->addWidget(check);
+    row->addWidget(label(QLatin1String(name), "text"));
+    row->addStretch(1);
+    return row;
 }
 
 QFrame *card(const QString &caption, const QString &note, QLayout *content)

@@ -3,8 +3,11 @@
 
 #include <QString>
 
+#include <functional>
+
 class HorizontalSlider;
 class QFrame;
+class QHBoxLayout;
 class QLabel;
 class QLayout;
 class QVBoxLayout;
@@ -25,6 +28,9 @@ HorizontalSlider *slider(const char *title, const char *unit, double min, double
 
 /// \a widget at its own size under a \a name.
 QVBoxLayout *named(const char *name, QWidget *widget);
+
+/// A check box before its \a name; \a follow hears of every change.
+QHBoxLayout *option(const char *name, bool checked, const std::function<void(bool)> &follow);
 
 /// A white card with \a caption over \a content, and a fainter \a note under the caption where
 /// there is something to add.

@@ -94,6 +94,10 @@ const QVector<Page> &pages()
           QStringLiteral("Items go on in a new row where the next one would pass the right edge. "
                          "Drag the handle and see them wrap."),
           buildFlowPage },
+        { QStringLiteral("mainview"), QStringLiteral("Main view"),
+          QStringLiteral("The pages of one device. Choose a settings page in the menu of the red "
+                         "column, and leave it with the cross."),
+          buildMainViewPage },
         { QStringLiteral("shell"), QStringLiteral("Window and columns"),
           QStringLiteral(
               "The main window around this page with its docks and tabs, and the control "

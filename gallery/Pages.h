@@ -22,6 +22,7 @@ const QVector<Page> &pages();
 const Page *findPage(const QString &name);
 
 // Each page is a function in a file of its own; the caller owns what it builds.
+QWidget *buildMainViewPage();
 QWidget *buildShellPage();
 QWidget *buildSliderPage();
 QWidget *buildScaleSliderPage();

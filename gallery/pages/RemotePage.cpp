@@ -12,14 +12,11 @@
 #include <Pelorin/RemoteControl>
 
 #include <QButtonGroup>
-#include <QCheckBox>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
-
-#include <functional>
 
 namespace {
 
@@ -32,19 +29,6 @@ PanelWiring::Note noteFor(const char *panel, SignalLog *log)
     return [name, log](const QString &signal, const QString &value) {
         log->note(name, signal, value);
     };
-}
-
-QHBoxLayout *option(const char *name, bool checked, const std::function<void(bool)> &follow)
-{
-    auto *check = new QCheckBox;
-    check->setProperty("type", QStringLiteral("text"));
-    check->setChecked(checked);
-    QObject::connect(check, &QCheckBox::toggled, check, follow);
-    auto *row = new QHBoxLayout;
-    row->addWidget(check);
-    row->addWidget(PageParts::label(QLatin1String(name), "text"));
-    row->addStretch(1);
-    return row;
 }
 
 QFrame *panelCard(const char *caption, const char *note, QWidget *panel,
@@ -71,7 +55,7 @@ QFrame *marquelCard(Laser &laser, SignalLog *log)
 {
     auto *panel = PanelWiring::makeMarquel(laser, noteFor("MarquelRemoteControl", log));
     return panelCard("MarquelRemoteControl", "Asks before it switches on without a wavelength.",
-                     panel, { option("No wavelength selected", false, [panel](bool on) {
+                     panel, { PageParts::option("No wavelength selected", false, [panel](bool on) {
                          panel->slotSetNoHarmonicWavelengthWarning(on);
                      }) });
 }
@@ -79,18 +63,21 @@ QFrame *marquelCard(Laser &laser, SignalLog *log)
 QFrame *ostrelCard(Laser &laser, SignalLog *log)
 {
     auto *panel = PanelWiring::makeOstrel(laser, noteFor("OstrelRemoteControl", log));
-    return panelCard(
-        "OstrelRemoteControl", "Keeps its lamps above state 6, which it does not know.", panel,
-        { option("Output enable", true, [panel](bool on) { panel->enableOutEnableButton(on); }) });
+    return panelCard("OstrelRemoteControl",
+                     "Keeps its lamps above state 6, which it does not know.", panel,
+                     { PageParts::option("Output enable", true,
+                                         [panel](bool on) { panel->enableOutEnableButton(on); }) });
 }
 
 QFrame *marquelXCard(Laser &laser, SignalLog *log)
 {
     auto *panel = PanelWiring::makeMarquelX(laser, noteFor("MarquelXRemoteControl", log));
-    return panelCard(
-        "MarquelXRemoteControl", "Freezes in state 7; tunes its pulse stretcher in state 8.", panel,
-        { option("Pulse stretcher", true, [panel](bool on) { panel->slotTPSRbuttonView(on); }),
-          option("Output enable", true, [panel](bool on) { panel->enableOutEnableButton(on); }) });
+    return panelCard("MarquelXRemoteControl",
+                     "Freezes in state 7; tunes its pulse stretcher in state 8.", panel,
+                     { PageParts::option("Pulse stretcher", true,
+                                         [panel](bool on) { panel->slotTPSRbuttonView(on); }),
+                       PageParts::option("Output enable", true,
+                                         [panel](bool on) { panel->enableOutEnableButton(on); }) });
 }
 
 /// A button for each state, of which the present one is green.
