@@ -185,7 +185,7 @@ void ScrollAreaNG::listItemInsert(int index, ScrollAreaNGItem *listItem)
 /// may do anything when it is hidden or gets its parent.
 bool ScrollAreaNG::add(ScrollAreaNGItem *listItem)
 {
-    if (!listItem || !m_itemLayout || listItemIndexOf(listItem) >= 0)
+    if (!listItem || listItemIndexOf(listItem) >= 0)
         return false;
     const QPointer<ScrollAreaNG> self(this);
     const QPointer<ScrollAreaNGItem> item(listItem);
@@ -194,8 +194,13 @@ bool ScrollAreaNG::add(ScrollAreaNGItem *listItem)
         return false;
     m_items.append(item);
     m_itemLayout->addWidget(item);
-    if (!self || listItemIndexOf(item) < 0)
+    if (!self)
         return false;
+    if (listItemIndexOf(item) < 0) { // taken out again meanwhile
+        if (item && m_itemLayout)
+            m_itemLayout->removeWidget(item);
+        return false;
+    }
     connect(this, &ScrollAreaNG::contentScrolled, item, &ScrollAreaNGItem::contentScrolled);
     connect(item, &ScrollAreaNGItem::listItemSetCurrent, this, &ScrollAreaNG::listItemSetCurrent,
             Qt::UniqueConnection);

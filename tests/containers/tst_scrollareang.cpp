@@ -57,6 +57,7 @@ private Q_SLOTS:
     void settlesBeforeItScrolls_data();
     void settlesBeforeItScrolls();
     void checksAnItem();
+    void processesEventsForACurrentItemOnly();
     void takesRequestsOfItems();
     void tellsItemsOfTheirStateInOrder();
     void repaintsTheItemsThatChange();
@@ -537,6 +538,30 @@ void tst_ScrollAreaNG::checksAnItem()
     QCOMPARE(recorder.taken(), QStringList());
 }
 
+void tst_ScrollAreaNG::processesEventsForACurrentItemOnly()
+{
+    List area(column, 3);
+    area.listItemSetCurrentIndex(1);
+    int calls = 0;
+    const auto post = [&] {
+        QMetaObject::invokeMethod(
+            &area, [&] { ++calls; }, Qt::QueuedConnection);
+    };
+
+    post();
+    area.listItemSetCurrent(nullptr, true);
+    QCOMPARE(calls, 0);
+
+    area.listItemSetCurrentIndex(1);
+    QCOMPARE(calls, 1);
+    post();
+    area.listItemSetCurrentIndex(1); // also when nothing is told
+    QCOMPARE(calls, 2);
+    post();
+    area.listItemMoveForward(area.listItemAt(1));
+    QCOMPARE(calls, 3);
+}
+
 void tst_ScrollAreaNG::takesRequestsOfItems()
 {
     List area(column, 3);
@@ -612,6 +637,10 @@ void tst_ScrollAreaNG::repaintsTheItemsThatChange()
 
     area.refreshItemStates();
     QCOMPARE(painted(), (QList<int>{ 0, 0, 0 }));
+
+    area.widget()->layout()->setEnabled(false); // for the index alone, not for another place
+    area.listItemTake(&items[0]);
+    QCOMPARE(painted(), (QList<int>{ 0, 1, 1 }));
     for (Painted &item : items) {
         area.listItemTake(&item);
         item.setParent(nullptr);
@@ -913,6 +942,8 @@ void tst_ScrollAreaNG::livesWithoutItsContainer()
     List area(row, 3);
     area.listItemSetCurrentIndex(1);
     ScrollAreaNGItem item;
+    QScopedPointer<ScrollAreaNGItem> moved(area.listItemAt(2));
+    moved->setParent(nullptr);
 
     area.setWidget(new QWidget); // deletes the container with all items
     area.listItemAppend(&item);
@@ -923,11 +954,16 @@ void tst_ScrollAreaNG::livesWithoutItsContainer()
     QCOMPARE(area.listItemCount(), 3);
     QCOMPARE(area.listItemCurrent(), nullptr);
     QCOMPARE(item.index(), -1);
+    QVERIFY(area.listItemMoveBackward(moved.data())); // in the list alone
+    QCOMPARE(area.listItemTake(moved.data()), moved.data());
     area.listItemDeleteIndex(0);
     area.listItemDeleteAll();
     QCOMPARE(area.listItemCount(), 0);
-    delete area.takeWidget();
-    area.listItemSetCurrentIndex(0, true);
+
+    List lost(row, 3);
+    const QScopedPointer<QWidget> container(lost.takeWidget()); // with all items, alive
+    lost.listItemSetCurrentIndex(2);
+    QVERIFY(lost.listItemAt(2)->selected());
 }
 
 void tst_ScrollAreaNG::freesItsItems()

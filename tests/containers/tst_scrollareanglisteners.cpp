@@ -203,6 +203,9 @@ class tst_ScrollAreaNGListeners : public TestCase
 private Q_SLOTS:
     void mayDoAnythingAtAnySignal_data();
     void mayDoAnythingAtAnySignal();
+    void mayDestroyTheAreaAtEverySignal_data();
+    void mayDestroyTheAreaAtEverySignal();
+    void maySettleTheStatesByTakingNothing();
     void maySelectAnotherWhenTheIndexIsTold();
     void maySelectAnotherWhenTheItemIsTold();
     void mayMoveTheCurrentItemWhileItIsSelected();
@@ -210,6 +213,10 @@ private Q_SLOTS:
     void mayTakeTheItemThatIsAdded();
     void mayDestroyTheItemThatIsAdded_data();
     void mayDestroyTheItemThatIsAdded();
+    void mayDestroyTheAreaAsAnItemIsHidden();
+    void mayDestroyItselfAsItIsHidden();
+    void mayTakeItselfAsItGetsItsParent_data();
+    void mayTakeItselfAsItGetsItsParent();
     void mayAddFromInsideOfAdding();
     void mayDestroyTheAreaAtAScrollEvent();
     void mayDestroyTheAreaWhenBothBarsMove_data();
@@ -264,6 +271,61 @@ void tst_ScrollAreaNGListeners::mayDoAnythingAtAnySignal()
     QVERIFY(answers > 0);
     delete area;
     qDeleteAll(taken);
+}
+
+void tst_ScrollAreaNGListeners::mayDestroyTheAreaAtEverySignal_data()
+{
+    QTest::addColumn<ScrollAreaNG::eLayoutStyle>("style");
+    QTest::addColumn<int>("moment");
+
+    for (const auto style : { row, column, flow }) {
+        for (const auto &moment : moments) {
+            if (moment.value != OfTimer)
+                QTest::addRow("%s, %s", styleName(style), moment.name)
+                    << style << int(moment.value);
+        }
+    }
+}
+
+void tst_ScrollAreaNGListeners::mayDestroyTheAreaAtEverySignal()
+{
+    QFETCH(ScrollAreaNG::eLayoutStyle, style);
+    QFETCH(int, moment);
+    bool isReached = true;
+    int last = 0;
+    for (; isReached; ++last) {
+        const Guarded area = new List(style, 4);
+        QApplication::processEvents();
+        Items taken;
+        int signal = 0;
+        listen(area, Moment(moment), [&] {
+            if (signal++ == last)
+                delete area;
+        });
+
+        useAll(area, taken);
+
+        isReached = area.isNull();
+        delete area;
+        qDeleteAll(taken);
+    }
+
+    QVERIFY(last > 1); // the first signal at least, and then none
+}
+
+void tst_ScrollAreaNGListeners::maySettleTheStatesByTakingNothing()
+{
+    List area(column, 3);
+    area.listItemSetCurrentIndex(0);
+    bool isSettled = false;
+    connect(area.listItemAt(0), &ScrollAreaNGItem::selectionChanged, this, [&] {
+        area.listItemTakeAt(99);
+        isSettled = area.listItemAt(2)->selected();
+    });
+
+    area.listItemSetCurrentIndex(2);
+
+    QVERIFY(isSettled);
 }
 
 void tst_ScrollAreaNGListeners::maySelectAnotherWhenTheIndexIsTold()
@@ -389,6 +451,97 @@ void tst_ScrollAreaNGListeners::mayDestroyTheItemThatIsAdded()
     QCOMPARE(disorder(area), QString());
 }
 
+void tst_ScrollAreaNGListeners::mayDestroyTheAreaAsAnItemIsHidden()
+{
+    class Hostile : public ScrollAreaNGItem
+    {
+    public:
+        Guarded area;
+
+    protected:
+        bool event(QEvent *event) override
+        {
+            if (event->type() == QEvent::HideToParent)
+                delete area;
+            return ScrollAreaNGItem::event(event);
+        }
+    };
+    for (int way = 0; way < 3; ++way) {
+        const Guarded area = new List(column, 2);
+        Hostile hostile;
+        ScrollAreaNGItem other;
+        hostile.area = area;
+
+        if (way == 0)
+            area->listItemAppend(&hostile);
+        else if (way == 1)
+            area->listItemAppend(Items{ &hostile, &other });
+        else
+            area->listItemInsert(0, &hostile);
+
+        QVERIFY(area.isNull());
+        QCOMPARE(hostile.parentWidget(), nullptr);
+        QCOMPARE(other.parentWidget(), nullptr);
+    }
+}
+
+void tst_ScrollAreaNGListeners::mayDestroyItselfAsItIsHidden()
+{
+    class Mayfly : public ScrollAreaNGItem
+    {
+    protected:
+        bool event(QEvent *event) override
+        {
+            if (event->type() != QEvent::HideToParent)
+                return ScrollAreaNGItem::event(event);
+            delete this;
+            return true;
+        }
+    };
+    List area(column, 2);
+
+    area.listItemAppend(new Mayfly);
+    area.listItemAppend(Items{ new Mayfly });
+    area.listItemInsert(0, new Mayfly);
+
+    QCOMPARE(area.listItemCount(), 2);
+    QCOMPARE(disorder(area), QString());
+}
+
+void tst_ScrollAreaNGListeners::mayTakeItselfAsItGetsItsParent_data()
+{
+    addStyles();
+}
+
+void tst_ScrollAreaNGListeners::mayTakeItselfAsItGetsItsParent()
+{
+    class Fickle : public ScrollAreaNGItem
+    {
+    public:
+        List *area = nullptr;
+
+    protected:
+        bool event(QEvent *event) override
+        {
+            if (event->type() == QEvent::ParentChange)
+                area->listItemTake(this);
+            return ScrollAreaNGItem::event(event);
+        }
+    };
+    QFETCH(ScrollAreaNG::eLayoutStyle, style);
+    List area(style, 2);
+    auto *const item = new Fickle;
+    item->area = &area;
+
+    area.listItemInsert(0, item);
+    Q_EMIT item->listItemSetCurrent(area.listItemAt(1));
+
+    QCOMPARE(area.listItemCount(), 2);
+    QCOMPARE(area.listItemCurrent(), nullptr); // it is not heard
+    QVERIFY(item->isHidden());
+    QCOMPARE(disorder(area), QString());
+}
+
 void tst_ScrollAreaNGListeners::mayAddFromInsideOfAdding()
 {
     /// Is in the list before the area has come to it.
@@ -459,16 +612,25 @@ void tst_ScrollAreaNGListeners::areNotReachedByAnAreaThatGoes()
     class Talker : public ScrollAreaNGItem
     {
     public:
+        QPointer<QScrollBar> bar;
+
         ~Talker() override
         {
+            bar->setValue(bar->value() + 1);
             Q_EMIT listItemSetCurrent(nullptr, true);
             Q_EMIT listItemSetChecked(nullptr);
         }
     };
     auto *const area = new List(column, 2);
-    area->listItemInsert(0, makeItem(new Talker));
+    auto *const talker = new Talker;
+    talker->bar = area->verticalScrollBar();
+    area->listItemInsert(0, makeItem(talker));
+    QApplication::processEvents();
+    QVERIFY(talker->bar->maximum() > 0);
     QStringList heard;
     note(heard, *area);
+    connect(area, &ScrollAreaNG::contentScrolled, this,
+            [&heard] { heard << QStringLiteral("scrolled"); });
 
     delete area;
 
