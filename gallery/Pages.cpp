@@ -98,6 +98,15 @@ const QVector<Page> &pages()
           QStringLiteral("The pages of one device. Choose a settings page in the menu of the red "
                          "column, and leave it with the cross."),
           buildMainViewPage },
+        { QStringLiteral("items"), QStringLiteral("Item lists"),
+          QStringLiteral(
+              "Steps that an application paints, in a column, a row and a flow. A click "
+              "selects one; its mark is apart from that. Tab, Return and Space do it too."),
+          buildItemListPage },
+        { QStringLiteral("stack"), QStringLiteral("Stack and tabs"),
+          QStringLiteral("A stack of pages beside the one of Qt, under the tabs of the main view, "
+                         "and a tab widget."),
+          buildStackPage },
         { QStringLiteral("shell"), QStringLiteral("Window and columns"),
           QStringLiteral(
               "The main window around this page with its docks and tabs, and the control "

@@ -42,6 +42,8 @@ QWidget *buildFirstEntryPage();
 QWidget *buildRemotePage();
 QWidget *buildOverlayPage();
 QWidget *buildFlowPage();
+QWidget *buildItemListPage();
+QWidget *buildStackPage();
 QWidget *buildThemePage();
 QWidget *buildControlsPage();
 QWidget *buildPicturesPage();
