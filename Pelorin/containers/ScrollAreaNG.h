@@ -81,7 +81,7 @@ Q_SIGNALS:
 public Q_SLOTS:
     /// Adds an item at the end: it is hidden, learns its state, and is shown.
     void listItemAppend(ScrollAreaNGItem *listItem);
-    /// The same for many, faster: all of them are shown before they learn their states.
+    /// The same for many: all of them are shown first, and then learn their states.
     void listItemAppend(QList<ScrollAreaNGItem *> listItems);
     /// Adds an item before the one at \a index, which is limited to the entries that there are. The
     /// others learn their new indices; the current item stays, and no signal of the area says that its

@@ -1,5 +1,7 @@
 #include "Pelorin/containers/ScrollArea.h"
 #include "Pelorin/containers/ScrollAreaNG.h"
+#include "Pelorin/containers/TabBar.h"
+#include "Pelorin/containers/TabWidget.h"
 #include "Pelorin/containers/stackWidget.h"
 #include "Pelorin/controls/Button.h"
 #include "Pelorin/controls/ComboBox.h"
@@ -139,6 +141,15 @@ QWidget *filledItemList()
     return list;
 }
 
+template<typename Tabs>
+QWidget *filledTabs(void (*fill)(Tabs &, const QString &))
+{
+    auto *tabs = new Tabs(nullptr);
+    for (const char *const name : { "Output", "Trigger", "Service" })
+        fill(*tabs, QString::fromLatin1(name));
+    return tabs;
+}
+
 QWidget *filledStack()
 {
     auto *stack = new stackWidget;
@@ -216,6 +227,15 @@ const QVector<Subject> &subjects()
         { "ScrollArea", [] { return new ScrollArea(true); } },
         { "ScrollAreaNG", filledItemList },
         { "stackWidget", filledStack },
+        { "TabBar",
+          [] {
+              return filledTabs<TabBar>([](TabBar &bar, const QString &name) { bar.addTab(name); });
+          } },
+        { "TabWidget",
+          [] {
+              return filledTabs<TabWidget>(
+                  [](TabWidget &tabs, const QString &name) { tabs.addTab(new QWidget, name); });
+          } },
         { "PulsesView", [] { return new PulsesView; } },
         { "QualityIndicator", [] { return new QualityIndicator; } },
         { "SignalGraph", [] { return new SignalGraph; } },
