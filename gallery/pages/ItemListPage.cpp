@@ -368,7 +368,7 @@ QWidget *buildItemListPage()
     auto *row = new StepList("Row", ScrollAreaNG::LayoutHorizontal, log);
     auto *column = new StepList("Column", ScrollAreaNG::LayoutVertical, log);
     auto *flow = new StepList("Flow", ScrollAreaNG::LayoutFlow, log);
-    column->setMinimumHeight(412);
+    column->setMinimumHeight(436);
     row->setFixedHeight(126);
     column->fill(7, 1, 3);
     row->fill(9, 2, 0);
