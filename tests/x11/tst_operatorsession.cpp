@@ -24,6 +24,12 @@ constexpr int actionCount = 1000;
 constexpr int actionMs = 150; // an answer comes after 100
 constexpr quint32 seed = 20;
 
+// As the X server counts them.
+constexpr int leftButton = 1;
+constexpr int rightButton = 3;
+constexpr int wheelUp = 4;
+constexpr int wheelDown = 5;
+
 const QStringList keys =
     QStringLiteral("Tab Tab Left Right Up Down Home End BackSpace Delete Return "
                    "Escape space Page_Up Page_Down shift+Right shift+Tab 1 2 5 "
@@ -45,18 +51,17 @@ public:
         switch (m_random.bounded(10)) {
         case 0:
         case 1:
-            return { QStringLiteral("key"), keys.at(m_random.bounded(keys.size())) };
+            return { QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("0"),
+                     keys.at(m_random.bounded(keys.size())) };
         case 2:
         case 3:
             return drag();
         case 4:
-            return at(target())
-                   + QStringList{ QStringLiteral("click"),
-                                  m_random.bounded(2) ? QStringLiteral("4") : QStringLiteral("5") };
+            return at(target()) + press(m_random.bounded(2) ? wheelUp : wheelDown);
         case 5:
-            return at(target()) + QStringList{ QStringLiteral("click"), QStringLiteral("3") };
+            return at(target()) + press(rightButton);
         default:
-            return at(target()) + QStringList{ QStringLiteral("click"), QStringLiteral("1") };
+            return at(target()) + press(leftButton);
         }
     }
 
@@ -65,6 +70,13 @@ private:
     {
         return { QStringLiteral("mousemove"), QString::number(global.x()),
                  QString::number(global.y()) };
+    }
+
+    /// Not xdotool's click, which waits for a tenth of a second.
+    static QStringList press(int button)
+    {
+        return { QStringLiteral("mousedown"), QString::number(button), QStringLiteral("mouseup"),
+                 QString::number(button) };
     }
 
     QStringList drag()
