@@ -45,7 +45,7 @@ CenterTabWidget > QTabWidget > QTabBar::tab:selected {
     background-color: transparent; border: none; outline: 0px;
     font-family: "Calibri"; font-size: 16px; color: #DDD;
 }
-#sidebar QListWidget::item { padding: 8px 16px; border: none; }
+#sidebar QListWidget::item { padding: 5px 16px; border: none; }
 #sidebar QListWidget::item:hover { background-color: #ED6E00; color: #FFF; }
 #sidebar QListWidget::item:selected { background-color: #FFF; color: #87212E; }
 #sidebar ScrollAreaNG, #sidebar ScrollAreaNGContainer { background-color: #87212E; border: none; }

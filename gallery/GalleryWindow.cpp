@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -61,6 +62,8 @@ QWidget *GalleryWindow::makeSidebar()
     QFrame *sidebar = Appearance::sidebar(layout);
     m_topics = new QListWidget;
     m_topics->setObjectName(QStringLiteral("topics"));
+    m_topics->verticalScrollBar()->setProperty("type",
+                                               QStringLiteral("scrollbar-flat-rounded-grey"));
     for (const Page &page : pages())
         m_topics->addItem(page.title);
     layout->addWidget(m_topics, 1);

@@ -26,7 +26,7 @@ const QVector<Device> &devices()
           { 10.0, 1000.0 } },
         { QStringLiteral("lightsource"),
           QStringLiteral("Light source"),
-          QStringLiteral("Eight channels from 400 to 750 nm"),
+          QStringLiteral("Tunable line and eight channels"),
           Device::Family::Plain,
           { 400.0, 750.0 },
           540.0,

@@ -17,6 +17,7 @@
 #include <QFile>
 #include <QRandomGenerator>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QTemporaryDir>
 
 using Simulation::Instrument;
@@ -68,6 +69,8 @@ private Q_SLOTS:
     void keepsItsState();
     void keepsFolderAndFilterOfTheChart();
     void keepsNothingWithoutAFile();
+    void keepsTheDivider();
+    void resetsTheDividerOfEmptyPanes();
     void resetsItsLayout();
     void opensWithADamagedFile();
 
@@ -476,6 +479,42 @@ void tst_InstrumentWindow::keepsNothingWithoutAFile()
     m_window->close();
 
     QVERIFY(!QFile::exists(file()));
+}
+
+void tst_InstrumentWindow::keepsTheDivider()
+{
+    m_window = std::make_unique<ApplicationProbe>(file());
+    openOstrel();
+    const auto *splitter = m_window->find<QSplitter>();
+    const QList<int> first = splitter->sizes();
+    QVERIFY(first.at(0) > 100 && first.at(1) > 100);
+    MouseHand hand(*splitter->handle(1));
+    hand.drag(QPoint(20, 2), QPoint(20, -48));
+    const QList<int> dragged = splitter->sizes();
+    QVERIFY(qAbs(first.at(0) - 50 - dragged.at(0)) < 3);
+    m_window->close();
+
+    const auto again = reopened();
+    QCOMPARE(again->find<QSplitter>()->sizes(), dragged);
+    QTest::mouseClick(again->find<Button>("Reset layout"), Qt::LeftButton);
+
+    QCOMPARE(again->find<QSplitter>()->sizes(), first);
+}
+
+/// At the first start no device is open, and the panes have nothing to show.
+void tst_InstrumentWindow::resetsTheDividerOfEmptyPanes()
+{
+    openOstrel();
+    QCoreApplication::processEvents();
+    const auto *splitter = m_window->find<QSplitter>();
+    const QList<int> first = splitter->sizes();
+    MouseHand hand(*splitter->handle(1));
+    hand.drag(QPoint(20, 2), QPoint(20, -48));
+    QVERIFY(splitter->sizes() != first);
+
+    QTest::mouseClick(m_window->find<Button>("Reset layout"), Qt::LeftButton);
+
+    QCOMPARE(splitter->sizes(), first);
 }
 
 void tst_InstrumentWindow::resetsItsLayout()
