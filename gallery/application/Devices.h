@@ -19,6 +19,7 @@ struct Device
     Simulation::Span wavelengths; ///< nm
     double firstWavelength;       ///< nm, after it is switched on
     Simulation::Span powers;      ///< mW
+    Simulation::Span chart;       ///< nm; with room for the numbers at the axis
 };
 
 /// All devices at the lines of the simulated lab, in the order in which they are shown.

@@ -19,6 +19,7 @@
 #include <QLabel>
 #include <QSplitter>
 #include <QTabWidget>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 using Simulation::Instrument;
@@ -29,6 +30,7 @@ namespace {
 const QSize preferredSize(1600, 900);
 constexpr int readingsWidth = 264;
 constexpr int logHeight = 96;
+constexpr int logMargin = 12;
 constexpr quint32 firstSeed = 20;
 
 const QString headerSheet =
@@ -201,6 +203,7 @@ void InstrumentWindow::makeDocks()
 {
     m_log = new SignalLog;
     m_log->setMinimumHeight(logHeight);
+    m_log->document()->setDocumentMargin(logMargin);
     m_log->setPlaceholderText(QStringLiteral("What you ask of an instrument stands here"));
     createGenericDockWidget(makeSidebar(), QStringLiteral("Devices"), Qt::LeftDockWidgetArea, true);
     createGenericDockWidget(makeReadingsColumn(), QStringLiteral("Instrument"),

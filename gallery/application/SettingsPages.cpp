@@ -73,6 +73,8 @@ QWidget *Controls::makeLimitPage(const Desk &desk)
     const double span = powers.max - powers.min;
     auto *limits = new RangedInputSliderNG(sideMargin);
     limits->setObjectName(QStringLiteral("limits"));
+    limits->setStartText(QStringLiteral("Lowest"));
+    limits->setStopText(QStringLiteral("Highest"));
     limits->setUnitText(QStringLiteral("mW"));
     limits->setPrecision(1);
     limits->setDoubleRange(span / 20.0, span, true);

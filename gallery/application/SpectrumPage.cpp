@@ -18,7 +18,6 @@ using Simulation::Instrument;
 namespace {
 
 constexpr int chartHeight = 400;
-constexpr double chartMarginNm = 50.0;
 
 struct Harmonic
 {
@@ -60,8 +59,7 @@ WavelengthChart *makeChart(const Controls::Desk &desk)
     auto *chart = new WavelengthChart(0);
     chart->setObjectName(QStringLiteral("chart"));
     chart->setMinimumHeight(chartHeight);
-    chart->setWavelengthRange(desk.device.wavelengths.min - chartMarginNm,
-                              desk.device.wavelengths.max + chartMarginNm);
+    chart->setWavelengthRange(desk.device.chart.min, desk.device.chart.max);
     chart->setSpectrometerData({});
     if (desk.device.family == Device::Family::Ostrel || desk.device.family == Device::Family::Plain)
         addDyes(chart);
