@@ -101,3 +101,18 @@ function(pelorin_test_again name program)
     endif()
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300)
 endfunction()
+
+# pelorin_reference(): the target docs, which makes the reference from the comments of the headers that are
+# installed. A warning of Doxygen fails it; without Doxygen there is no such target.
+function(pelorin_reference)
+    find_package(Doxygen 1.9 QUIET)
+    if(NOT DOXYGEN_FOUND)
+        return()
+    endif()
+    set(doxyfile "${PROJECT_BINARY_DIR}/Doxyfile")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/Doxyfile.in" "${doxyfile}" @ONLY)
+    add_custom_target(docs
+        COMMAND Doxygen::doxygen "${doxyfile}"
+        COMMENT "Reference: ${PROJECT_BINARY_DIR}/docs/html/index.html"
+        VERBATIM)
+endfunction()

@@ -26,17 +26,28 @@ install_packages() {
         "${missing[@]}" >/dev/null
 }
 
-# build_preset PRESET [CMAKE-OPTION...]: configures and builds build/PRESET.
-build_preset() {
+# configure_preset PRESET [CMAKE-OPTION...]: configures build/PRESET, silently if it succeeds.
+configure_preset() {
     local preset=$1
     shift
-    echo "-- building $preset"
     (
         cd "$root"
         cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@" >"$(log_of "$preset")" ||
             { cat "$(log_of "$preset")" >&2; exit 1; }
-        cmake --build --preset "$preset" -- --quiet
     )
+}
+
+# build_preset PRESET [CMAKE-OPTION...]: configures and builds build/PRESET.
+build_preset() {
+    echo "-- building $1"
+    configure_preset "$@"
+    (cd "$root" && cmake --build --preset "$1" -- --quiet)
+}
+
+# build_target PRESET TARGET: configures build/PRESET and builds one target of it.
+build_target() {
+    configure_preset "$1"
+    (cd "$root" && cmake --build --preset "$1" --target "$2" -- --quiet)
 }
 
 log_of() {
