@@ -37,13 +37,18 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         QStringLiteral(
             "Write a picture of each of them, or of NAME alone, to DIR; needs no display."),
         QStringLiteral("DIR"));
+    const QCommandLineOption specimens(
+        QStringLiteral("specimens"),
+        QStringLiteral(
+            "Write a picture of each widget, called as its class, to DIR; needs no display."),
+        QStringLiteral("DIR"));
     const QCommandLineOption settings(
         QStringLiteral("settings"),
         QStringLiteral("Keep the state of the window in FILE, not among the user's settings."),
         QStringLiteral("FILE"));
     const QCommandLineOption help({ QStringLiteral("h"), QStringLiteral("help") },
                                   QStringLiteral("Print this text."));
-    parser.addOptions({ page, list, snapshot, settings, help });
+    parser.addOptions({ page, list, snapshot, specimens, settings, help });
 
     CommandLine result;
     const bool understood = parser.parse(arguments);
@@ -55,7 +60,7 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         return result;
     }
     result.page = parser.value(page);
-    result.directory = parser.value(snapshot);
+    result.directory = parser.value(parser.isSet(specimens) ? specimens : snapshot);
     result.settings = parser.value(settings);
     if (parser.isSet(help)) {
         result.action = Action::PrintHelp;
@@ -66,6 +71,11 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         result.action = Action::Complain;
         result.text = QStringLiteral("There is no device or topic '%1'; --list prints the names.")
                           .arg(result.page);
+    } else if (parser.isSet(specimens) && parser.isSet(snapshot)) {
+        result.action = Action::Complain;
+        result.text = QStringLiteral("--specimens and --snapshot cannot be taken at once.");
+    } else if (parser.isSet(specimens)) {
+        result.action = Action::TakeSpecimens;
     } else if (parser.isSet(snapshot)) {
         result.action = Action::TakeSnapshots;
     }
@@ -74,8 +84,9 @@ CommandLine CommandLine::parse(const QStringList &arguments)
 
 bool CommandLine::needsNoDisplay(const QStringList &arguments)
 {
-    static const QStringList options{ QStringLiteral("--snapshot"), QStringLiteral("--list"),
-                                      QStringLiteral("--help"), QStringLiteral("-h") };
+    static const QStringList options{ QStringLiteral("--snapshot"), QStringLiteral("--specimens"),
+                                      QStringLiteral("--list"), QStringLiteral("--help"),
+                                      QStringLiteral("-h") };
     return std::any_of(arguments.cbegin(), arguments.cend(), [](const QString &argument) {
         return options.contains(argument.section(QLatin1Char('='), 0, 0));
     });

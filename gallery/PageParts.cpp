@@ -2,12 +2,15 @@
 
 #include <Pelorin/HorizontalSlider>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPixmap>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -106,6 +109,28 @@ QFrame *readoutCard(const QString &caption, QLabel *readout, QWidget *content)
     const bool upright = content->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
     layout->addWidget(content, 0, upright ? Qt::AlignHCenter : Qt::Alignment());
     layout->addStretch(1);
+    return result;
+}
+
+QLabel *openList(QComboBox *box, int current, int width)
+{
+    auto *result = new QLabel;
+    box->setParent(result);
+    box->hide();
+    box->ensurePolished();
+    QAbstractItemView *const view = box->view();
+    view->ensurePolished();
+    view->setCurrentIndex(box->model()->index(current, 0));
+    view->resize(width, view->height());
+    view->grab(); // so that the rows find their places
+    const QRect last = view->visualRect(box->model()->index(box->count() - 1, 0));
+    const int rim = view->viewport()->mapTo(view, QPoint(0, 0)).y();
+    view->resize(width, last.bottom() + 1 + 2 * rim);
+    QPixmap picture(view->size());
+    picture.fill(Qt::transparent); // its corners are round
+    view->render(&picture, QPoint(), QRegion(), QWidget::DrawChildren);
+    result->setPixmap(picture);
+    result->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     return result;
 }
 

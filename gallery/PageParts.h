@@ -6,6 +6,7 @@
 #include <functional>
 
 class HorizontalSlider;
+class QComboBox;
 class QFrame;
 class QHBoxLayout;
 class QLabel;
@@ -41,6 +42,10 @@ QFrame *card(const QString &caption, const QString &note, QWidget *content);
 
 /// A white card with \a readout at the right of \a caption, over \a content.
 QFrame *readoutCard(const QString &caption, QLabel *readout, QWidget *content);
+
+/// The open list of \a box as a picture of that width, for an open list closes when one looks
+/// elsewhere. The item \a current is marked. The picture takes the box over.
+QLabel *openList(QComboBox *box, int current, int width);
 
 /// Makes \a widget a specimen: it keeps the state it is in, whatever mouse and keyboard do.
 void freeze(QWidget *widget);

@@ -2,6 +2,7 @@
 #include "gallery/GalleryWindow.h"
 #include "gallery/Pages.h"
 #include "gallery/Snapshot.h"
+#include "gallery/Specimens.h"
 #include "gallery/application/InstrumentWindow.h"
 
 #include <Pelorin/Pelorin>
@@ -69,14 +70,17 @@ int runWithoutDisplay(int argc, char *argv[])
         for (const Page &page : pages())
             print(page.name);
         return 0;
-    case CommandLine::Action::TakeSnapshots: {
+    case CommandLine::Action::TakeSnapshots:
+    case CommandLine::Action::TakeSpecimens: {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qputenv("QT_FONT_DPI", "96");
         qunsetenv("QT_SCALE_FACTOR");
         qInstallMessageHandler(dropKnownNoise);
         QApplication app(argc, argv);
         prepare(app);
-        const QString trouble = takeSnapshots(command.directory, command.page);
+        const QString trouble = command.action == CommandLine::Action::TakeSpecimens
+                                    ? takeSpecimens(command.directory)
+                                    : takeSnapshots(command.directory, command.page);
         return trouble.isEmpty() ? 0 : complain(trouble);
     }
     default:

@@ -5,7 +5,6 @@
 #include <Pelorin/ComboBoxNG>
 #include <Pelorin/DropDownNG>
 
-#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QFrame>
 #include <QGridLayout>
@@ -97,29 +96,6 @@ QGridLayout *checkGrid(const QStringList &captions)
     return grid;
 }
 
-/// The open list of \a box as a picture, for an open list closes when one looks elsewhere.
-QLabel *openList(QComboBox *box, int current, int width)
-{
-    auto *result = new QLabel;
-    box->setParent(result);
-    box->hide();
-    box->ensurePolished();
-    QAbstractItemView *const view = box->view();
-    view->ensurePolished();
-    view->setCurrentIndex(box->model()->index(current, 0));
-    view->resize(width, view->height());
-    view->grab(); // so that the rows find their places
-    const QRect last = view->visualRect(box->model()->index(box->count() - 1, 0));
-    const int rim = view->viewport()->mapTo(view, QPoint(0, 0)).y();
-    view->resize(width, last.bottom() + 1 + 2 * rim);
-    QPixmap picture(view->size());
-    picture.fill(Qt::transparent); // its corners are round
-    view->render(&picture, QPoint(), QRegion(), QWidget::DrawChildren);
-    result->setPixmap(picture);
-    result->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    return result;
-}
-
 QFrame *hiddenItemsCard(SignalLog *log)
 {
     DropDownNG *list = liveDropDown(log);
@@ -160,7 +136,7 @@ QFrame *dropDownListCard()
     auto *list = new DropDownNG;
     list->addItems(modes());
     auto *column = new QVBoxLayout;
-    column->addWidget(openList(list, 2, openWidth));
+    column->addWidget(PageParts::openList(list, 2, openWidth));
     column->addStretch(1);
     return PageParts::card(QStringLiteral("DropDownNG, open"), QString(), column);
 }
@@ -237,7 +213,7 @@ QFrame *comboBoxListCard()
         auto *box = new ComboBoxNG;
         box->setProperty("type", QLatin1String(type));
         box->addItems(modes());
-        column->addWidget(openList(box, 2, openWidth));
+        column->addWidget(PageParts::openList(box, 2, openWidth));
     }
     column->addStretch(1);
     return PageParts::card(QStringLiteral("ComboBoxNG, open"), QString(), column);

@@ -1,36 +1,15 @@
 #include "gallery/PageParts.h"
 #include "gallery/Pages.h"
+#include "gallery/Rainbow.h"
 
 #include <Pelorin/WavelengthSpectrum>
-#include <Pelorin/WavelengthSpectrumNG>
 
 #include <QFrame>
 #include <QGridLayout>
-#include <QPaintEvent>
-#include <QPainter>
 
 namespace {
 
 constexpr int gridColumns = 6; // three bars of the first generation over two of the second
-
-/// What the second generation is there for: its own rectangles covered, its rainbow shown.
-class Rainbow : public WavelengthSpectrumNG
-{
-public:
-    using WavelengthSpectrumNG::WavelengthSpectrumNG;
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        WavelengthSpectrumNG::paintEvent(event);
-        QPainter painter(this);
-        painter.setFont(QFont(QStringLiteral("Calibri"), 10));
-        painter.fillRect(rect(), Qt::white);
-        drawWavelengths(&painter);
-        drawPowerLabels(&painter);
-        drawWavelengthLabels(&painter);
-    }
-};
 
 struct Ranges
 {

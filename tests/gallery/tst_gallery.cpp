@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QImage>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
 
@@ -48,15 +49,46 @@ bool isDevice(const QString &name)
         .contains(name);
 }
 
-/// Colours on a coarse grid; a page that shows nothing has a handful.
-int colours(const QImage &image)
+/// Colours on a grid; a page that shows nothing has a handful.
+int colours(const QImage &image, int grid = 3)
 {
     QSet<QRgb> found;
-    for (int y = 0; y < image.height(); y += 3) {
-        for (int x = 0; x < image.width(); x += 3)
+    for (int y = 0; y < image.height(); y += grid) {
+        for (int x = 0; x < image.width(); x += grid)
             found.insert(image.pixel(x, y));
     }
     return found.size();
+}
+
+/// The classes of the library that paint something.
+QSet<QString> visibleClasses()
+{
+    const QStringList all = QStringLiteral(PELORIN_CLASSES).split(QLatin1Char(' '));
+    const QStringList unseen{ QStringLiteral("ComboBoxNGItemModel"),
+                              QStringLiteral("ComboSliderScale"),
+                              QStringLiteral("ComboSliderUnit"),
+                              QStringLiteral("Converter"),
+                              QStringLiteral("Pelorin"),
+                              QStringLiteral("QWidgetNG"),
+                              QStringLiteral("ScrollAreaNGItem"),
+                              QStringLiteral("ScrollAreaNGContainer"),
+                              QStringLiteral("ZoomResetProxy") };
+    return QSet<QString>(all.cbegin(), all.cend()) - QSet<QString>(unseen.cbegin(), unseen.cend());
+}
+
+/// What README shows a picture of.
+QSet<QString> classesInReadme()
+{
+    QFile file(QStringLiteral(PELORIN_README));
+    QSet<QString> result;
+    if (!file.open(QIODevice::ReadOnly))
+        return result;
+    const QString text = QString::fromUtf8(file.readAll());
+    static const QRegularExpression picture(QStringLiteral("docs/images/widgets/(\\w+)\\.png"));
+    auto found = picture.globalMatch(text);
+    while (found.hasNext())
+        result.insert(found.next().captured(1));
+    return result;
 }
 
 } // namespace
@@ -72,6 +104,9 @@ private Q_SLOTS:
     void takesAPictureOfOnePage();
     void takesTheSamePictureTwice_data();
     void takesTheSamePictureTwice();
+    void takesAPictureOfEveryClassThatIsSeen();
+    void takesTheSamePictureOfAClassTwice();
+    void showsEveryClassThatIsSeenInReadme();
     void complainsInOneLine_data();
     void complainsInOneLine();
 };
@@ -150,6 +185,50 @@ void tst_Gallery::takesTheSamePictureTwice()
     QCOMPARE(images[0], images[1]);
 }
 
+void tst_Gallery::takesAPictureOfEveryClassThatIsSeen()
+{
+    QTemporaryDir dir;
+    const QString place = dir.filePath(QStringLiteral("new/folder"));
+
+    const Result result = gallery({ QStringLiteral("--specimens"), place });
+
+    QCOMPARE(result.err, QStringList());
+    QCOMPARE(result.code, 0);
+    QSet<QString> taken;
+    for (const QFileInfo &each : QDir(place).entryInfoList(QDir::Files)) {
+        taken.insert(each.completeBaseName());
+        const QImage image(each.filePath());
+        QVERIFY2(colours(image, 1) > 4, qPrintable(each.fileName()));
+        QVERIFY2(image.width() <= 800 && image.height() <= 500, qPrintable(each.fileName()));
+    }
+    QCOMPARE(taken, visibleClasses());
+}
+
+void tst_Gallery::takesTheSamePictureOfAClassTwice()
+{
+    QTemporaryDir dirs[2];
+
+    for (const QTemporaryDir &each : dirs)
+        QCOMPARE(gallery({ QStringLiteral("--specimens=") + each.path() }).code, 0);
+
+    for (const QString &name : QDir(dirs[0].path()).entryList(QDir::Files))
+        QVERIFY2(QImage(dirs[0].filePath(name)) == QImage(dirs[1].filePath(name)),
+                 qPrintable(name));
+}
+
+void tst_Gallery::showsEveryClassThatIsSeenInReadme()
+{
+    const QSet<QString> shown = classesInReadme();
+
+    QCOMPARE(shown, visibleClasses());
+    const QDir pictures(QFileInfo(QStringLiteral(PELORIN_README))
+                            .dir()
+                            .filePath(QStringLiteral("docs/images/widgets")));
+    for (const QString &name : shown)
+        QVERIFY2(!QImage(pictures.filePath(name + QStringLiteral(".png"))).isNull(),
+                 qPrintable(name));
+}
+
 void tst_Gallery::complainsInOneLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -166,6 +245,14 @@ void tst_Gallery::complainsInOneLine_data()
         << QStringList{ snapshot, QStringLiteral("/proc") };
     QTest::newRow("no directory") << QStringList{ snapshot, QString() };
     QTest::newRow("no word for the directory") << QStringList{ snapshot };
+    const QString specimens = QStringLiteral("--specimens");
+    QTest::newRow("a file where the directory of the widgets should be")
+        << QStringList{ specimens, QStringLiteral("/etc/hostname") };
+    QTest::newRow("directory of the widgets that cannot be written")
+        << QStringList{ specimens, QStringLiteral("/proc") };
+    QTest::newRow("no directory for the widgets") << QStringList{ specimens, QString() };
+    QTest::newRow("topics and widgets at once")
+        << QStringList{ specimens, QDir::tempPath(), snapshot, QDir::tempPath() };
     QTest::newRow("unknown option")
         << QStringList{ snapshot, QDir::tempPath(), QStringLiteral("--loud") };
     QTest::newRow("stray word") << QStringList{ snapshot, QDir::tempPath(),
