@@ -24,6 +24,7 @@ int main(int argc, char *argv[])
     auto *panel = new RemoteControl;
     auto *view = new MainView;
     view->setHeader("Laser 1");
+    view->showSettings(false);
     view->setControlPage(view->addControlPage("Control", power));
     view->setRemoteControlWidget(panel);
     window.createSystemWidget(view, "Laser 1", false, true);
