@@ -35,26 +35,21 @@ constexpr int fieldWidth = 150;
 constexpr int fieldHeight = 34;
 constexpr int listWidth = 176;
 
-QWidget *inRow(const QVector<QWidget *> &widgets, int spacing)
+/// The \a widgets one after the other in \a box, each at that \a side of it.
+QWidget *lined(QBoxLayout *box, const QVector<QWidget *> &widgets, int spacing, Qt::Alignment side)
 {
     auto *result = new QWidget;
-    auto *row = new QHBoxLayout(result);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(spacing);
+    result->setLayout(box);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->setSpacing(spacing);
     for (QWidget *each : widgets)
-        row->addWidget(each, 0, Qt::AlignVCenter);
+        box->addWidget(each, 0, side);
     return result;
 }
 
-QWidget *inColumn(const QVector<QWidget *> &widgets, int spacing)
+QWidget *inRow(const QVector<QWidget *> &widgets, int spacing)
 {
-    auto *result = new QWidget;
-    auto *column = new QVBoxLayout(result);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(spacing);
-    for (QWidget *each : widgets)
-        column->addWidget(each, 0, Qt::AlignLeft);
-    return result;
+    return lined(new QHBoxLayout, widgets, spacing, Qt::AlignVCenter);
 }
 
 // Fields
@@ -123,7 +118,8 @@ QWidget *openBox()
     box->addItems(modes);
     auto *behind = new Box;
     behind->addItems(modes);
-    return inColumn({ box, PageParts::openList(behind, 2, listWidth) }, 2);
+    return lined(new QVBoxLayout, { box, PageParts::openList(behind, 2, listWidth) }, 2,
+                 Qt::AlignLeft);
 }
 
 QWidget *makeDropDownNG()
