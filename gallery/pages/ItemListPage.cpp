@@ -355,8 +355,8 @@ private:
         row->addWidget(button);
     }
 
-    StepList *m_list;
-    QButtonGroup *m_choice;
+    StepList *m_list = nullptr;
+    QButtonGroup *m_choice = nullptr;
 };
 
 } // namespace
