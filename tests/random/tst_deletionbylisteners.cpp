@@ -291,10 +291,14 @@ QVector<Action> gesturesOn(int part, bool isPlainField)
 QVector<Action> actionsOn(QWidget &sample)
 {
     QVector<Action> result = callsOf(*sample.metaObject()) + writesOf(*sample.metaObject());
+    const QList<QByteArray> idle{ "QWidget", "QFrame", "QLabel", "ContainerWidget",
+                                  "VerticalLabel" };
     QMap<QByteArray, int> alike;
     const QWidgetList parts = partsOf(sample);
     for (int i = 0; i < parts.size(); ++i) {
-        if (++alike[parts.at(i)->metaObject()->className()] <= 2)
+        const QByteArray name = parts.at(i)->metaObject()->className();
+        const bool isIdle = i > 0 && idle.contains(name);
+        if (!isIdle && ++alike[name] <= 2)
             result += gesturesOn(i, qobject_cast<LineEdit *>(parts.at(i)));
     }
     return result;
