@@ -72,6 +72,11 @@ const QVector<Page> &pages()
           QStringLiteral("A spectrometer at 20 Hz, the band of a laser, and eight dyes of which it "
                          "excites a part. Drag over the plot to zoom in."),
           buildChartPage },
+        { QStringLiteral("barechart"), QStringLiteral("Chart, first generation"),
+          QStringLiteral(
+              "A plot area without a ground round it. Drag over the plot to zoom in; the "
+              "right button leads back."),
+          buildBareChartPage },
         { QStringLiteral("channels"), QStringLiteral("Channel controls"),
           QStringLiteral(
               "The eight channels of a tunable light source in three views that are kept "

@@ -29,6 +29,7 @@ QWidget *buildScaleSliderPage();
 QWidget *buildAssemblyPage();
 QWidget *buildComboSliderPage();
 QWidget *buildRangedSliderPage();
+QWidget *buildBareChartPage();
 QWidget *buildChartPage();
 QWidget *buildSpectrumBarsPage();
 QWidget *buildChannelPage();

@@ -4,6 +4,7 @@
 
 #include <QDebug>
 #include <QFocusEvent>
+#include <QPointer>
 
 namespace {
 
@@ -65,8 +66,10 @@ void LineEdit::resetText()
     setText(m_savedText);
     m_timeoutTimer.stop();
     m_editing = false;
+    const QPointer<LineEdit> self(this); // who hears of it may delete the field
     Q_EMIT textReset();
-    qDebug() << "Reset: " << m_savedText;
+    if (self)
+        qDebug() << "Reset: " << m_savedText;
 }
 
 void LineEdit::checkForNewText()
@@ -79,13 +82,17 @@ void LineEdit::checkForNewText()
 
 void LineEdit::focusInEvent(QFocusEvent *event)
 {
+    const QPointer<LineEdit> self(this);
     Q_EMIT gotFocus();
-    QLineEdit::focusInEvent(event);
+    if (self)
+        QLineEdit::focusInEvent(event);
 }
 
 void LineEdit::focusOutEvent(QFocusEvent *event)
 {
+    const QPointer<LineEdit> self(this);
     if (m_editing)
         Q_EMIT returnPressed();
-    QLineEdit::focusOutEvent(event);
+    if (self)
+        QLineEdit::focusOutEvent(event);
 }

@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QDebug>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QTimer>
 #include <QtMath>
 
@@ -122,8 +123,11 @@ void LineEditNumberBase::setRange(double min, double max, bool ignoreValueChange
             setEditValue(m_curValue);
             showValue(m_editText);
         }
+        const QPointer<LineEditNumberBase> self(this);
         if (!ignoreValueChanges)
             reportValueChanged(publicValue(m_curValue));
+        if (!self)
+            return;
     }
     setPopupSliderValue();
 }
@@ -250,16 +254,21 @@ void LineEditNumberBase::showValue(const QString &text)
     setCursorPosition(cursor);
 }
 
-/// The commit. The callers pass the text of the edit value, not what stands in the field.
-void LineEditNumberBase::acceptEditValue(const QString &text)
+/// The commit. The callers pass the text of the edit value, not what stands in the field. False if
+/// a listener has deleted the field.
+bool LineEditNumberBase::acceptEditValue(const QString &text)
 {
     m_editTimer->stop();
     const double v = textToValue(text);
+    const QPointer<LineEditNumberBase> self(this);
     if (setEditValue(v))
         reportValueChanging(publicValue(m_editValue));
+    if (!self)
+        return false;
     showValue(m_editText);
     if (setCurValue(v))
         reportValueChanged(publicValue(m_curValue));
+    return !self.isNull();
 }
 
 /// Moves the digit left of the cursor by one. A step is a commit, and tells so also at a limit.
@@ -270,7 +279,10 @@ void LineEditNumberBase::stepEditValue(int direction)
     const double lastDigit = direction / std::pow(10.0, m_precision);
     setEditValue(m_editValue + lastDigit * std::pow(10.0, exponent));
     showValue(m_editText);
+    const QPointer<LineEditNumberBase> self(this);
     reportValueChanging(publicValue(m_editValue));
+    if (!self)
+        return;
     setCurValue(m_editValue);
     reportValueChanged(m_curValue);
 }
@@ -281,16 +293,20 @@ void LineEditNumberBase::textEdited(const QString &newText)
     const QByteArray place = QByteArray(metaObject()->className()) + "::textEdited-in";
     qDebug() << place.constData() << newText;
     setEditValue(textToValue(newText));
+    const QPointer<LineEditNumberBase> self(this);
     reportValueChanging(publicValue(m_editValue));
-    restartEditTimer();
+    if (self)
+        restartEditTimer();
 }
 
 /// The user has left the edit alone. The edit value survives, and the next commit takes it.
 void LineEditNumberBase::editTimeout()
 {
     showValue(m_curText);
+    const QPointer<LineEditNumberBase> self(this);
     reportValueChanging(publicValue(m_curValue));
-    selectAll();
+    if (self)
+        selectAll();
 }
 
 /// Whether the edit timer runs, which is all that there is of an edit state.
@@ -342,8 +358,8 @@ void LineEditNumberBase::keyPressEvent(QKeyEvent *event)
     }
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        acceptEditValue(m_editText);
-        selectAll();
+        if (acceptEditValue(m_editText))
+            selectAll();
         break;
     case Qt::Key_Up:
         stepEditValue(1);
@@ -365,8 +381,8 @@ void LineEditNumberBase::focusInEvent(QFocusEvent *event)
 void LineEditNumberBase::focusOutEvent(QFocusEvent *event)
 {
     popUpSliderHide();
-    acceptEditValue(m_editText);
-    QLineEdit::focusOutEvent(event);
+    if (acceptEditValue(m_editText))
+        QLineEdit::focusOutEvent(event);
 }
 
 void LineEditNumberBase::moveEvent(QMoveEvent *event)

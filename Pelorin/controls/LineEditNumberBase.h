@@ -101,7 +101,7 @@ private:
     bool setEditValue(double v);
     bool setCurValue(double v);
     void showValue(const QString &text);
-    void acceptEditValue(const QString &text);
+    bool acceptEditValue(const QString &text);
     void stepEditValue(int direction);
     bool isEditing() const;
     void restartEditTimer();

@@ -142,8 +142,8 @@ void LineEditNumberBase::priPopupSliderValueChanging(double value)
 void LineEditNumberBase::priPopupSliderValueChanged(double value)
 {
     qDebug() << "priPopupSliderValueChanged" << value;
-    acceptEditValue(m_editText);
-    selectAll();
+    if (acceptEditValue(m_editText))
+        selectAll();
 }
 
 /// Whether there is a popup to be hidden by what the user does in the field.

@@ -7,6 +7,7 @@
 #include "Pelorin/sliders/DigitStep_p.h"
 #include "Pelorin/sliders/ScaleSlider.h"
 #include "Pelorin/theme/PanelGround_p.h"
+#include "Pelorin/theme/PartsEnd_p.h"
 #include "Pelorin/theme/StyleProperty_p.h"
 #include "Pelorin/theme/StyledBackground_p.h"
 
@@ -37,6 +38,11 @@ ComboSlider::ComboSlider(int sideMargin, QWidget *parent)
     connectFields();
     layOut(sideMargin);
     setDarkBackground(true);
+}
+
+ComboSlider::~ComboSlider()
+{
+    stopListeningToParts(this);
 }
 
 void ComboSlider::configureFields(int sideMargin)

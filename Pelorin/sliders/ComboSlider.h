@@ -39,6 +39,7 @@ public:
     /// Without scales, and so without a selectable value. \a sideMargin pixels stay free at both
     /// sides of selectors and slider.
     explicit ComboSlider(int sideMargin, QWidget *parent = nullptr);
+    ~ComboSlider() override;
 
     /// Adds \a scale at the end and becomes its parent. Its units are shown at once if it is the
     /// first. Emits selectionChanged(). Null is ignored.

@@ -1,6 +1,7 @@
 #include "Pelorin/sliders/RangedInputPanel.h"
 
 #include "Pelorin/theme/PanelGround_p.h"
+#include "Pelorin/theme/PartsEnd_p.h"
 #include "Pelorin/theme/StyleProperty_p.h"
 #include "Pelorin/theme/StyledBackground_p.h"
 
@@ -14,6 +15,11 @@ RangedInputPanel::RangedInputPanel(QWidget *parent)
     , m_start(QStringLiteral("Start"))
     , m_stop(QStringLiteral("Stop"))
 {}
+
+RangedInputPanel::~RangedInputPanel()
+{
+    stopListeningToParts(this);
+}
 
 void RangedInputPanel::setStartText(const QString &text)
 {

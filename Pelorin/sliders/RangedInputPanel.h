@@ -31,6 +31,7 @@ public:
 
 protected:
     explicit RangedInputPanel(QWidget *parent);
+    ~RangedInputPanel() override;
 
     /// Lays all out, with \a sideMargin free pixels at both sides of the rows; the panel takes the
     /// ownership. Called once, by the constructor.

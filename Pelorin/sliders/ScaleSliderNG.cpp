@@ -4,6 +4,8 @@
 #include "Pelorin/sliders/ScaleMapping_p.h"
 #include "Pelorin/sliders/ScaleSliderNGLayers_p.h"
 
+#include <QPointer>
+
 #include <algorithm>
 
 namespace {
@@ -193,7 +195,7 @@ void ScaleSliderNG::priSetValue(double value, int index)
 
 /// Derives the value from a handle that was moved. A handle whose value stays keeps the position
 /// that it was given, so that single handle units can gather until the rounded value moves.
-void ScaleSliderNG::updateValue(int index, bool snapToStep, bool silent)
+bool ScaleSliderNG::updateValue(int index, bool snapToStep, bool silent)
 {
     const Values before = m_value;
     const double value = handle2Value(m_handlePos[index]);
@@ -206,10 +208,11 @@ void ScaleSliderNG::updateValue(int index, bool snapToStep, bool silent)
         if (m_value[i] == before[i])
             continue;
         m_handlePos[i] = value2Handle(m_value[i]);
-        if (!silent)
-            emitValueChanging(i);
+        if (!silent && !emitValueChanging(i))
+            return false;
     }
     updateHandles();
+    return true;
 }
 
 /// Clamps to range and distances. The value at \a index has the say, the other one is pushed. In a
@@ -253,14 +256,14 @@ void ScaleSliderNG::validateRanges(bool ignoreValueChanges)
     priSetValue(m_value[0], 0);
     priSetValue(m_value[1], 1);
     buildLabelList();
-    updateValue(0, true, ignoreValueChanges);
-    updateValue(1, true, ignoreValueChanges);
+    if (!updateValue(0, true, ignoreValueChanges) || !updateValue(1, true, ignoreValueChanges))
+        return;
     update();
     if (ignoreValueChanges)
         return;
     for (int i = 0; i < 2; ++i) {
-        if (m_value[i] != before[i])
-            emitValueChanged(i);
+        if (m_value[i] != before[i] && !emitValueChanged(i))
+            return;
     }
 }
 
@@ -269,36 +272,40 @@ void ScaleSliderNG::changeValue(double value, int index)
     if (isGrabbed())
         return;
     priSetValue(value, index);
-    emitValueChanging(index);
-    emitValueChanged(index);
+    if (emitValueChanging(index))
+        emitValueChanged(index);
 }
 
-void ScaleSliderNG::setHandlePosition(int position, int index)
+bool ScaleSliderNG::setHandlePosition(int position, int index)
 {
     if (isGrabbed())
-        return;
+        return true;
     m_handlePos[index] = ScaleMapping::boundedHandle(position);
-    updateValue(index, true, false);
+    return updateValue(index, true, false);
 }
 
 void ScaleSliderNG::changeHandlePosition(int position, int index)
 {
-    setHandlePosition(position, index);
-    emitValueChanged(index);
+    if (setHandlePosition(position, index))
+        emitValueChanged(index);
 }
 
-void ScaleSliderNG::emitValueChanging(int index)
+bool ScaleSliderNG::emitValueChanging(int index)
 {
+    const QPointer<ScaleSliderNG> self(this);
     if (index == 0)
         Q_EMIT valueChanging0(m_value[0]);
     else
         Q_EMIT valueChanging1(m_value[1]);
+    return !self.isNull();
 }
 
-void ScaleSliderNG::emitValueChanged(int index)
+bool ScaleSliderNG::emitValueChanged(int index)
 {
+    const QPointer<ScaleSliderNG> self(this);
     if (index == 0)
         Q_EMIT valueChanged0(m_value[0]);
     else
         Q_EMIT valueChanged1(m_value[1]);
+    return !self.isNull();
 }

@@ -238,7 +238,8 @@ private:
     };
     struct Layers;
 
-    // Value model, in values and handle units
+    // Value model, in values and handle units. What emits and returns a bool returns false if a
+    // listener has deleted the slider.
     bool isKnownType() const;
     bool hasSteps() const;
     bool isGrabbed() const { return m_grabbed[0] || m_grabbed[1]; }
@@ -248,20 +249,20 @@ private:
     double prevStepValue(int index) const;
     double nextStepValue(int index) const;
     void priSetValue(double value, int index);
-    void updateValue(int index, bool snapToStep, bool silent);
+    bool updateValue(int index, bool snapToStep, bool silent);
     void validateValues(int index);
     void validateRanges(bool ignoreValueChanges);
     void changeValue(double value, int index);
-    void setHandlePosition(int position, int index);
+    bool setHandlePosition(int position, int index);
     void changeHandlePosition(int position, int index);
-    void emitValueChanging(int index);
-    void emitValueChanged(int index);
+    bool emitValueChanging(int index);
+    bool emitValueChanged(int index);
 
     // Input
     bool isAboveHandle(QPoint position, int index) const;
     void grabHandle(int index, QPoint position);
-    void dragHandles(QPoint position);
-    void settleValue(int index);
+    bool dragHandles(QPoint position);
+    bool settleValue(int index);
     void stepHandle(int index, bool increase, int handleStep);
 
     // Layout and labels

@@ -6,6 +6,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 
 /// Tab walks through the handles of a double slider and leaves it only from the last one.
 bool ScaleSliderNG::event(QEvent *event)
@@ -49,8 +50,8 @@ void ScaleSliderNG::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!isGrabbed())
         return;
-    settleValue(0);
-    settleValue(1);
+    if (!settleValue(0) || !settleValue(1))
+        return;
     m_grabbed = {};
     const QPoint position = event->localPos().toPoint();
     for (int i = 0; i < 2; ++i)
@@ -61,8 +62,8 @@ void ScaleSliderNG::mouseReleaseEvent(QMouseEvent *event)
 void ScaleSliderNG::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint position = event->localPos().toPoint();
-    if (isGrabbed())
-        dragHandles(position);
+    if (isGrabbed() && !dragHandles(position))
+        return;
     for (int i = 0; i < 2; ++i)
         m_hovered[i] = !isGrabbed() && isAboveHandle(position, i);
     updateHandles();
@@ -74,10 +75,13 @@ void ScaleSliderNG::keyPressEvent(QKeyEvent *event)
     const bool decrease = event->key() == axis().decreaseKey();
     if (increase || decrease) {
         const int handleStep = event->modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1;
-        for (int i = 0; i < 2; ++i) {
+        const QPointer<ScaleSliderNG> self(this);
+        for (int i = 0; i < 2 && self; ++i) {
             if (hasFocus() && m_focused[i])
                 stepHandle(i, increase, handleStep);
         }
+        if (!self)
+            return;
     }
     QWidget::keyPressEvent(event);
 }
@@ -129,7 +133,7 @@ void ScaleSliderNG::grabHandle(int index, QPoint position)
 }
 
 /// The way is always taken from the press, so that no rounding gathers.
-void ScaleSliderNG::dragHandles(QPoint position)
+bool ScaleSliderNG::dragHandles(QPoint position)
 {
     const int way = axis().rise(m_pressPos, position);
     if (m_grabbed[0] && m_grabbed[1]) {
@@ -144,19 +148,20 @@ void ScaleSliderNG::dragHandles(QPoint position)
             continue;
         m_handlePos[i] =
             ScaleMapping::boundedHandle(double(m_pressHandle[i]) + saturatedRound(moved));
-        updateValue(i, false, false);
+        if (!updateValue(i, false, false))
+            return false;
     }
+    return true;
 }
 
 /// The end of a drag: a step type lands on a step now, and a value that was really changed is
 /// reported.
-void ScaleSliderNG::settleValue(int index)
+bool ScaleSliderNG::settleValue(int index)
 {
     if (m_value[index] == m_pressValue[index])
-        return;
+        return true;
     priSetValue(m_value[index], index);
-    if (m_value[index] != m_pressValue[index])
-        emitValueChanged(index);
+    return m_value[index] == m_pressValue[index] || emitValueChanged(index);
 }
 
 void ScaleSliderNG::stepHandle(int index, bool increase, int handleStep)

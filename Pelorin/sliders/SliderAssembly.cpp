@@ -2,11 +2,13 @@
 
 #include "Pelorin/controls/VerticalLabel.h"
 #include "Pelorin/shell/ContainerWidget.h"
+#include "Pelorin/theme/PartsEnd_p.h"
 #include "Pelorin/theme/StyleProperty_p.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 
 SliderAssembly::SliderAssembly(Qt::Orientation orientation, ScaleSliderNG::ScaleType type,
                                QWidget *parent)
@@ -18,6 +20,11 @@ SliderAssembly::SliderAssembly(Qt::Orientation orientation, ScaleSliderNG::Scale
     unitLabel->setProperty(StyleProperty::type, StyleType::label);
     slider->setLabelDigits(5);
     slider->setLabelDecimalDigits(0);
+}
+
+SliderAssembly::~SliderAssembly()
+{
+    stopListeningToParts(this);
 }
 
 void SliderAssembly::setValuePrecision(int decimals)
@@ -53,14 +60,18 @@ void SliderAssembly::setValue(double value)
 
 void SliderAssembly::changeValue(double value)
 {
+    const QPointer<SliderAssembly> self(this); // who hears of the change may delete the assembly
     slider->changeValue0(value);
-    lineEdit->setValue(value);
+    if (self)
+        lineEdit->setValue(value);
 }
 
 void SliderAssembly::setRange(double min, double max, bool ignoreValueChanges)
 {
+    const QPointer<SliderAssembly> self(this);
     slider->setRange(min, max, ignoreValueChanges);
-    lineEdit->setRange(min, max, ignoreValueChanges);
+    if (self)
+        lineEdit->setRange(min, max, ignoreValueChanges);
 }
 
 VerticalSliderAssembly::VerticalSliderAssembly(ScaleSliderNG::ScaleType type, QWidget *parent)

@@ -47,6 +47,7 @@ public:
 
 protected:
     SliderAssembly(Qt::Orientation orientation, ScaleSliderNG::ScaleType type, QWidget *parent);
+    ~SliderAssembly() override;
 
     /// Joins slider, field and the signals of \a self, which is this assembly in its own class. The
     /// application hears of a number that was typed through the slider alone, once it is clamped

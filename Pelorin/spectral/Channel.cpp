@@ -3,6 +3,7 @@
 #include "Pelorin/controls/Button.h"
 #include "Pelorin/controls/LineEditNumber.h"
 #include "Pelorin/spectral/ChannelButtons_p.h"
+#include "Pelorin/theme/PartsEnd_p.h"
 #include "Pelorin/theme/Rounding_p.h"
 #include "Pelorin/theme/StyleProperty_p.h"
 #include "Pelorin/theme/StyledBackground_p.h"
@@ -43,6 +44,11 @@ Channel::Channel(int number, QWidget *parent)
     grid->addWidget(m_setButton, 1, 0);
     grid->addWidget(m_wavelengthEdit, 1, 1);
     grid->addWidget(makeUnit(tr("nm")), 1, 2);
+}
+
+Channel::~Channel()
+{
+    stopListeningToParts(this);
 }
 
 LineEditNumber *Channel::makeEdit(double step)

@@ -19,6 +19,7 @@ public:
     /// The cell of channel \a number, counted from 0; its button shows the number counted from 1, and
     /// keeps it for the signals: the text of that button must not be changed.
     explicit Channel(int number, QWidget *parent = nullptr);
+    ~Channel() override;
 
     bool enabled() const;
     /// The number in the field, in nm, also while it is edited; 0 if it is none.

@@ -1,6 +1,7 @@
 #include "Pelorin/spectral/ChannelGroup.h"
 
 #include "Pelorin/spectral/Channel.h"
+#include "Pelorin/theme/PartsEnd_p.h"
 
 #include <QGridLayout>
 
@@ -25,6 +26,11 @@ ChannelGroup::ChannelGroup(QWidget *parent)
         grid->addWidget(channel, i / columns, i % columns);
         m_channels.append(channel);
     }
+}
+
+ChannelGroup::~ChannelGroup()
+{
+    stopListeningToParts(this);
 }
 
 bool ChannelGroup::channelEnabled(int channel) const

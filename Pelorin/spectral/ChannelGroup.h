@@ -17,6 +17,7 @@ class PELORIN_EXPORT ChannelGroup : public QWidget
 
 public:
     explicit ChannelGroup(QWidget *parent = nullptr);
+    ~ChannelGroup() override;
 
     bool channelEnabled(int channel) const;
     double channelWavelength(int channel) const; ///< nm

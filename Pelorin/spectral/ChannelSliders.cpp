@@ -4,6 +4,7 @@
 #include "Pelorin/sliders/ComboSliderScale.h"
 #include "Pelorin/sliders/ComboSliderUnit.h"
 #include "Pelorin/spectral/ChannelButtons_p.h"
+#include "Pelorin/theme/PartsEnd_p.h"
 #include "Pelorin/theme/Rounding_p.h"
 #include "Pelorin/theme/StyleProperty_p.h"
 
@@ -42,6 +43,11 @@ ChannelSliders::ChannelSliders(int channel, QWidget *parent)
     grid->addWidget(m_enableButton, 1, 1, Qt::AlignRight);
     grid->addWidget(m_powerSlider, 2, 0, 1, 2);
     grid->addWidget(m_wavelengthSlider, 3, 0, 1, 2);
+}
+
+ChannelSliders::~ChannelSliders()
+{
+    stopListeningToParts(this);
 }
 
 ComboSlider *ChannelSliders::makeSlider(const QString &title, ComboSliderScale *&scale,

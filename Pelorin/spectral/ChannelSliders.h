@@ -20,6 +20,7 @@ class PELORIN_EXPORT ChannelSliders : public QWidget
 public:
     /// The panel of \a channel, counted from 0: 0 to 100 percent, 400 to 750 nm.
     explicit ChannelSliders(int channel, QWidget *parent = nullptr);
+    ~ChannelSliders() override;
 
     int channel() const { return m_channel; }
 

@@ -116,9 +116,11 @@ void WavelengthChart::setTotalPowerVisible(bool visible)
 
 void WavelengthChart::setSpectrometerVisibility(bool visible)
 {
-    const QSignalBlocker blocker(m_spectrometerCheckBox);
-    m_spectrometerCheckBox->setChecked(visible);
-    showSpectrometer(visible);
+    {
+        const QSignalBlocker blocker(m_spectrometerCheckBox);
+        m_spectrometerCheckBox->setChecked(visible);
+    }
+    showSpectrometer(visible); // a listener may delete the chart, and the box with it
 }
 
 void WavelengthChart::priShowSpectrometerClicked(bool checked)

@@ -111,7 +111,8 @@ QWidget *buildScaleSliderPage()
     auto *page = new QWidget;
     auto *grid = new QGridLayout(page);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(PageParts::gap);
+    grid->setHorizontalSpacing(PageParts::gap);
+    grid->setVerticalSpacing(PageParts::gap - 4); // six rows in a window of usual size
     auto *log = new SignalLog;
     const QVector<QFrame *> all = cards(log);
     for (int i = 0; i < all.size(); ++i)

@@ -9,7 +9,6 @@
 #include <Pelorin/TriggerActionView>
 #include <Pelorin/VerticalLabel>
 
-#include <QCheckBox>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -25,13 +24,14 @@ namespace {
 constexpr int blockSize = 400;
 constexpr int blockMs = 250;
 
-QFrame *viewCard(const QString &caption, QWidget *view, const QList<QWidget *> &controls)
+QFrame *viewCard(const QString &caption, QWidget *view, QWidget *control, QLayout *option = nullptr)
 {
     auto *column = new QVBoxLayout;
     column->setSpacing(PageParts::gap / 2);
     column->addWidget(view, 0, Qt::AlignHCenter);
-    for (QWidget *control : controls)
-        column->addWidget(control);
+    column->addWidget(control);
+    if (option)
+        column->addLayout(option);
     column->addStretch(1);
     return PageParts::card(caption, QString(), column);
 }
@@ -42,7 +42,7 @@ QFrame *makePulses()
     HorizontalSlider *const interval = PageParts::slider("Interval", "µs", 1.0, 100.0, 12.5, 1);
     QObject::connect(interval, &HorizontalSlider::valueChanging, view,
                      &PulsesView::setPulseInterval);
-    return viewCard(QStringLiteral("PulsesView"), view, { interval });
+    return viewCard(QStringLiteral("PulsesView"), view, interval);
 }
 
 QFrame *makeSubPulses()
@@ -51,7 +51,7 @@ QFrame *makeSubPulses()
     HorizontalSlider *const count = PageParts::slider("Sub-pulses", "", 0.0, 20.0, 5.0, 0);
     QObject::connect(count, &HorizontalSlider::valueChanging, view,
                      [view](double value) { view->setSubPulseCount(qRound(value)); });
-    return viewCard(QStringLiteral("SubPulsesView"), view, { count });
+    return viewCard(QStringLiteral("SubPulsesView"), view, count);
 }
 
 QFrame *makeTrigger()
@@ -60,12 +60,11 @@ QFrame *makeTrigger()
     HorizontalSlider *const count = PageParts::slider("Pulses", "", 0.0, 50.0, 14.0, 0);
     QObject::connect(count, &HorizontalSlider::valueChanging, view,
                      [view](double value) { view->setPulseCount(qRound(value)); });
-    auto *window = new QCheckBox(QStringLiteral("As long as the trigger is high"));
-    window->setProperty("type", QStringLiteral("text"));
-    QObject::connect(window, &QCheckBox::toggled, view, [view](bool on) {
+    const auto follow = [view](bool on) {
         view->setView(on ? TriggerActionView::ViewFixedWindow : TriggerActionView::ViewPulseCount);
-    });
-    return viewCard(QStringLiteral("TriggerActionView"), view, { count, window });
+    };
+    return viewCard(QStringLiteral("TriggerActionView"), view, count,
+                    PageParts::option("As long as the trigger is high", false, follow));
 }
 
 /// A bar in each of its states, and one that follows a slider.
@@ -107,10 +106,13 @@ QFrame *makeGraph()
     auto *column = new QVBoxLayout;
     auto *graph = new SignalGraph;
     auto *timer = new QTimer(graph);
-    auto *box = new QCheckBox(QStringLiteral("Live blocks"));
-    box->setProperty("type", QStringLiteral("text"));
     column->addWidget(graph);
-    column->addWidget(box);
+    column->addLayout(PageParts::option("Live blocks", false, [timer](bool on) {
+        if (on)
+            timer->start();
+        else
+            timer->stop();
+    }));
     timer->setInterval(blockMs);
     auto random = std::make_shared<QRandomGenerator>(20);
     auto phase = std::make_shared<int>(0);
@@ -120,12 +122,6 @@ QFrame *makeGraph()
         graph->update();
     };
     QObject::connect(timer, &QTimer::timeout, graph, next);
-    QObject::connect(box, &QCheckBox::toggled, timer, [timer](bool on) {
-        if (on)
-            timer->start();
-        else
-            timer->stop();
-    });
     next();
     return PageParts::card(QStringLiteral("SignalGraph"), QString(), column);
 }

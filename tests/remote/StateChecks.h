@@ -3,6 +3,7 @@
 
 #include "tests/remote/PanelProbe.h"
 #include "tests/support/SignalRecorder.h"
+#include "tests/support/TextList.h"
 
 #include <QStringList>
 #include <QtTest>
@@ -153,6 +154,23 @@ void showsAndHidesTheOutput()
     QVERIFY(output.isVisible());
     QVERIFY(output.button()->isEnabled());
     QCOMPARE(recorder.taken(), QStringList(signalText("sigEmissionStateChanged", true)));
+}
+
+/// Each press of a button asks for the contrary of what the last one asked for, or the state said.
+template<class Panel>
+void turnsRoundAtEveryPress()
+{
+    Panel panel;
+    panel.slotFSMStateChanged(3);
+    SignalRecorder recorder(&panel);
+
+    PanelProbe::press(*PanelProbe::find(panel, "Listen"));
+    PanelProbe::press(*PanelProbe::find(panel, "Listen"));
+    PanelProbe::press(*PanelProbe::find(panel, "Standby")); // on already
+    PanelProbe::press(*PanelProbe::find(panel, "Standby"));
+
+    QCOMPARE(recorder.taken(), list({ "listenChanged(true)", "listenChanged(false)",
+                                      "standbyChanged(false)", "standbyChanged(true)" }));
 }
 
 } // namespace StateChecks

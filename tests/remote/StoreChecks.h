@@ -218,6 +218,20 @@ void livesThroughItsDeletion(const std::function<void(Panel &)> &act)
     QVERIFY(panel.isNull());
 }
 
+/// In the state that lets light out, and in a press of each of the \a count buttons.
+template<class Panel>
+void livesThroughItsDeletionByAStateOrAPress(int count)
+{
+    livesThroughItsDeletion<Panel>([](Panel &panel) { panel.slotFSMStateChanged(6); });
+    for (int pressed = 0; pressed < count; ++pressed) {
+        livesThroughItsDeletion<Panel>([pressed](Panel &panel) {
+            IndicatorButton *button = PanelProbe::buttonsOf(panel).at(pressed);
+            button->setEnabled(true);
+            PanelProbe::press(*button);
+        });
+    }
+}
+
 } // namespace StoreChecks
 
 #endif

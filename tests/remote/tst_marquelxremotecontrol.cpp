@@ -294,17 +294,7 @@ void tst_MarquelXRemoteControl::showsAndHidesTheTuningButton()
 
 void tst_MarquelXRemoteControl::turnsRoundAtEveryPress()
 {
-    Panel panel;
-    panel.slotFSMStateChanged(3);
-    SignalRecorder recorder(&panel);
-
-    press(*find(panel, "Listen"));
-    press(*find(panel, "Listen"));
-    press(*find(panel, "Standby")); // on already
-    press(*find(panel, "Standby"));
-
-    QCOMPARE(recorder.taken(), list({ "listenChanged(true)", "listenChanged(false)",
-                                      "standbyChanged(false)", "standbyChanged(true)" }));
+    StateChecks::turnsRoundAtEveryPress<Panel>();
 }
 
 void tst_MarquelXRemoteControl::setsASingleLamp_data()
@@ -343,14 +333,7 @@ void tst_MarquelXRemoteControl::livesThroughItsDeletionInASlot()
 
 void tst_MarquelXRemoteControl::livesThroughItsDeletionByAStateOrAPress()
 {
-    StoreChecks::livesThroughItsDeletion<Panel>([](Panel &panel) { panel.slotFSMStateChanged(6); });
-    for (const int pressed : { 0, 1, 2, 3, 4 }) {
-        StoreChecks::livesThroughItsDeletion<Panel>([pressed](Panel &panel) {
-            IndicatorButton *button = buttonsOf(panel).at(pressed);
-            button->setEnabled(true);
-            press(*button);
-        });
-    }
+    StoreChecks::livesThroughItsDeletionByAStateOrAPress<Panel>(5);
 }
 
 PELORIN_TEST_MAIN(tst_MarquelXRemoteControl)

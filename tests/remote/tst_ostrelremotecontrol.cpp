@@ -227,17 +227,7 @@ void tst_OstrelRemoteControl::showsAndHidesTheOutputButton()
 
 void tst_OstrelRemoteControl::turnsRoundAtEveryPress()
 {
-    Panel panel;
-    panel.slotFSMStateChanged(3);
-    SignalRecorder recorder(&panel);
-
-    press(*find(panel, "Listen"));
-    press(*find(panel, "Listen"));
-    press(*find(panel, "Standby")); // on already
-    press(*find(panel, "Standby"));
-
-    QCOMPARE(recorder.taken(), list({ "listenChanged(true)", "listenChanged(false)",
-                                      "standbyChanged(false)", "standbyChanged(true)" }));
+    StateChecks::turnsRoundAtEveryPress<Panel>();
 }
 
 void tst_OstrelRemoteControl::setsASingleLamp_data()
@@ -276,14 +266,7 @@ void tst_OstrelRemoteControl::livesThroughItsDeletionInASlot()
 
 void tst_OstrelRemoteControl::livesThroughItsDeletionByAStateOrAPress()
 {
-    StoreChecks::livesThroughItsDeletion<Panel>([](Panel &panel) { panel.slotFSMStateChanged(6); });
-    for (const int pressed : { 0, 1, 2, 3 }) {
-        StoreChecks::livesThroughItsDeletion<Panel>([pressed](Panel &panel) {
-            IndicatorButton *button = buttonsOf(panel).at(pressed);
-            button->setEnabled(true);
-            press(*button);
-        });
-    }
+    StoreChecks::livesThroughItsDeletionByAStateOrAPress<Panel>(4);
 }
 
 PELORIN_TEST_MAIN(tst_OstrelRemoteControl)

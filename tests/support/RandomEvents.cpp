@@ -1,5 +1,7 @@
 #include "tests/support/RandomEvents.h"
 
+#include "tests/support/PlainCalls.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -21,65 +23,14 @@ const T &pick(QRandomGenerator &random, const T (&choices)[size])
     return choices[random.bounded(int(size))];
 }
 
-/// Whether a random value of \a type can be made up.
-bool isPlainType(int type)
-{
-    switch (type) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::UShort:
-    case QMetaType::UChar:
-    case QMetaType::Double:
-    case QMetaType::QString:
-    case QMetaType::QStringList:
-    case QMetaType::QSize:
-    case QMetaType::QPoint:
-        return true;
-    default:
-        return type == qMetaTypeId<QList<double>>();
-    }
-}
-
-/// What Qt itself does not take without complaint.
-bool isTouchy(const char *name)
-{
-    static const QList<QByteArray> names{ "autoRepeatDelay", "autoRepeatInterval", "animateClick",
-                                          "lineWidth", "midLineWidth" };
-    return names.contains(name);
-}
-
-bool isCallable(const QMetaMethod &method)
-{
-    if (isTouchy(method.name()))
-        return false;
-    if (method.methodType() != QMetaMethod::Slot || method.access() != QMetaMethod::Public)
-        return false;
-    for (int i = 0; i < method.parameterCount(); ++i) {
-        if (!isPlainType(method.parameterType(i)))
-            return false;
-    }
-    return method.parameterCount() <= 4;
-}
-
 } // namespace
 
 RandomEvents::RandomEvents(QWidget *widget, quint32 seed)
     : m_widget(widget)
     , m_random(seed)
-{
-    const QMetaObject *meta = widget->metaObject();
-    for (int i = QWidget::staticMetaObject.methodCount(); i < meta->methodCount(); ++i) {
-        if (isCallable(meta->method(i)))
-            m_slots << meta->method(i);
-    }
-    for (int i = QWidget::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i) {
-        const QMetaProperty property = meta->property(i);
-        if (property.isWritable() && !isTouchy(property.name())
-            && (property.isEnumType() || isPlainType(property.userType())))
-            m_properties << property;
-    }
-}
+    , m_slots(PlainCalls::slotsOf(*widget->metaObject()))
+    , m_properties(PlainCalls::propertiesOf(*widget->metaObject()))
+{}
 
 void RandomEvents::step()
 {
@@ -171,19 +122,15 @@ void RandomEvents::callSlot()
     if (m_slots.isEmpty())
         return;
     const QMetaMethod &slot = m_slots.at(m_random.bounded(m_slots.size()));
-    QVariant values[4];
-    QGenericArgument arguments[4];
+    QVariantList values;
     QStringList texts;
-    const QList<QByteArray> types = slot.parameterTypes();
     for (int i = 0; i < slot.parameterCount(); ++i) {
-        values[i] = value(slot.parameterType(i));
-        arguments[i] = QGenericArgument(types.at(i).constData(), values[i].constData());
-        texts << values[i].toString().left(30);
+        values << value(slot.parameterType(i));
+        texts << values.last().toString().left(30);
     }
     note(QStringLiteral("%1(%2)").arg(QString::fromLatin1(slot.name()),
                                       texts.join(QStringLiteral(", "))));
-    slot.invoke(m_widget, Qt::DirectConnection, arguments[0], arguments[1], arguments[2],
-                arguments[3]);
+    PlainCalls::call(*m_widget, slot, values);
 }
 
 void RandomEvents::writeProperty()
