@@ -18,6 +18,7 @@ using Simulation::Instrument;
 namespace {
 
 constexpr int chartHeight = 400;
+constexpr double manyDigits = 500.0; // mW; beyond, labels with decimals touch each other
 
 struct Harmonic
 {
@@ -136,6 +137,8 @@ QWidget *Controls::makeSpectrumPage(const Desk &desk)
     join(bandwidth, Setpoints::bandwidth, desk);
     HorizontalSlider *power = PageParts::slider("Power", "mW", 0.0, 100.0, 0.0, 1);
     power->setObjectName(QStringLiteral("power"));
+    if (desk.instrument.powers().max > manyDigits)
+        power->setLabelRoundingDigits(0);
     followLimits(power, desk);
     join(power, Setpoints::power, desk);
 
