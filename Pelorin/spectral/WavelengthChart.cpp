@@ -235,6 +235,13 @@ void WavelengthChart::createFilter()
             &WavelengthChart::priFluorophoreRangeChanged);
     for (const QValueAxis *axis : { m_wavelengthAxis, m_filterAxis, m_fluorophoreAxis })
         connect(axis, &QValueAxis::rangeChanged, m_layer, &SeriesLayer::invalidate);
+    // Qt Charts moves the labels of an axis and leaves crumbs of those that were there.
+    const auto repaint = [this] { viewport()->update(); };
+    for (const QValueAxis *axis : { m_wavelengthAxis, m_powerAxis, m_filterAxis }) {
+        connect(axis, &QValueAxis::rangeChanged, this, repaint);
+        connect(axis, &QValueAxis::labelFormatChanged, this, repaint);
+        connect(axis, &QValueAxis::titleTextChanged, this, repaint);
+    }
     // An area whose upper edge has an axis already makes Qt Charts forget the range of that axis.
     m_filterAxis->setRange(0.0, 100.0);
     m_fluorophoreAxis->setRange(0.0, 100.0);

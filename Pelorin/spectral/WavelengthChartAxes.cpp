@@ -174,7 +174,8 @@ void WavelengthChart::refreshDisplayControls()
     const QRectF plot = m_chart->plotArea();
     m_controlsProxy->setPos(plot.left(),
                             m_backItem->y() * 0.5 - m_controlsProxy->size().height() * 0.5);
-    m_controlsProxy->widget()->setFixedWidth(std::max(0, int(plot.width())));
+    // At no width Qt would take the row off the screen for good.
+    m_controlsProxy->widget()->setFixedWidth(std::max(1, int(plot.width())));
 }
 
 void WavelengthChart::priPlotAreaChanged(QRectF plotArea)
@@ -193,6 +194,7 @@ void WavelengthChart::refreshLayout()
 {
     if (!m_layer) // not built whole yet
         return;
+    viewport()->update(); // with the labels, of which Qt Charts leaves crumbs
     generateBackBrush();
     refreshZoom();
     refreshDisplayControls();

@@ -19,6 +19,7 @@
 #include <QVector>
 
 #include <array>
+#include <functional>
 
 namespace {
 
@@ -344,12 +345,12 @@ private:
     }
 
     void addAction(QHBoxLayout *row, const char *text, Button::Color color,
-                   void (StepList::*operation)())
+                   const std::function<void(StepList &)> &operation)
     {
         Button *button = makeButton(QLatin1String(text));
         button->setColor(color);
         connect(button, &Button::clicked, this, [this, operation] {
-            (m_list->*operation)();
+            operation(*m_list);
             m_list->showState();
         });
         row->addWidget(button);

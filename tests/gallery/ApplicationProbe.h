@@ -9,7 +9,9 @@
 #include <Pelorin/IndicatorButton>
 #include <Pelorin/MainView>
 
+#include <QImage>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabWidget>
 
 /// The window of the application with what a test looks at, found as it stands on the screen.
@@ -56,6 +58,25 @@ public:
             }
         }
         return nullptr;
+    }
+
+    /// Where the screen shows something else than a fresh picture of the window would: empty, if all
+    /// that has changed was repainted. The window must not be covered.
+    QRect stalePart()
+    {
+        const auto image = [](const QPixmap &picture) {
+            return picture.toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        const QImage seen = image(screen()->grabWindow(winId()));
+        const QImage fresh = image(grab());
+        QRect result;
+        for (int y = 0; y < fresh.height(); ++y) {
+            for (int x = 0; x < fresh.width(); ++x) {
+                if (seen.size() != fresh.size() || seen.pixel(x, y) != fresh.pixel(x, y))
+                    result |= QRect(x, y, 1, 1);
+            }
+        }
+        return result;
     }
 
     /// The middle of the handle, in coordinates of the slider.

@@ -1,5 +1,6 @@
 #include "tests/spectral/ChartProbe.h"
 #include "tests/support/MetaMethods.h"
+#include "tests/support/RepaintCounter.h"
 #include "tests/support/SignalRecorder.h"
 #include "tests/support/TestCase.h"
 #include "tests/support/TextList.h"
@@ -60,6 +61,8 @@ private Q_SLOTS:
     void keepsZerosOfTheFilterRange();
     void showsTheTotalPower_data();
     void showsTheTotalPower();
+    void repaintsTheTotalPowerAtOnce_data();
+    void repaintsTheTotalPowerAtOnce();
     void hidesAxesAndTotalPower();
     void hidesTheSpectrometerInOneReport();
     void tellsWhenTheOperatorHidesTheSpectrometer();
@@ -417,6 +420,38 @@ void tst_WavelengthChart::showsTheTotalPower()
     chart.setTotalPower(power, type);
 
     QTEST(chart.totalPower()->text(), "text");
+}
+
+void tst_WavelengthChart::repaintsTheTotalPowerAtOnce_data()
+{
+    QTest::addColumn<bool>("setUpBefore");
+    QTest::addColumn<QSize>("before");
+
+    QTest::newRow("as it is built") << false << QSize(900, 500);
+    QTest::newRow("set up before it is shown") << true << QSize(900, 500);
+    QTest::newRow("without room for a plot at first") << true << QSize(40, 30);
+}
+
+/// The row of controls has no width while the plot has none. It must not go with it: Qt takes a window
+/// without width off the screen for good, and then nothing on it is painted anew.
+void tst_WavelengthChart::repaintsTheTotalPowerAtOnce()
+{
+    QFETCH(bool, setUpBefore);
+    QFETCH(QSize, before);
+    WavelengthChart chart(0);
+    chart.setMinimumSize(1, 1);
+    chart.resize(before);
+    if (setUpBefore)
+        chart.setWavelengthRange(400.0, 700.0);
+    chart.show();
+    QApplication::processEvents();
+    chart.resize(900, 500);
+    RepaintCounter repaints(*chart.viewport());
+    QTRY_COMPARE(repaints.taken(), 0);
+
+    chart.setTotalPower(12.5, Converter::pwrMW1);
+
+    QVERIFY(repaints.taken() > 0);
 }
 
 void tst_WavelengthChart::hidesAxesAndTotalPower()

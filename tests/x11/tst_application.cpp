@@ -46,6 +46,8 @@ private Q_SLOTS:
 
     void startsUpByClicks_data();
     void startsUpByClicks();
+    void showsNothingOfThePast_data() { startsUpByClicks_data(); }
+    void showsNothingOfThePast();
     void takesATypedPower();
     void abandonsATypedPower();
     void takesADraggedPower();
@@ -58,6 +60,7 @@ private:
     bool open(const char *device)
     {
         m_window = std::make_unique<ApplicationProbe>(file());
+        m_window->resize(1560, 900); // all of it and its frame are on the screen
         m_window->show();
         m_window->activateWindow();
         return QTest::qWaitForWindowActive(m_window.get())
@@ -146,6 +149,31 @@ void tst_Application::startsUpByClicks()
     m_window->advance(5000);
     const double setpoint = m_window->instrument(row).powerSetpoint();
     QVERIFY(qAbs(m_window->instrument(row).power() - setpoint) < setpoint / 100.0);
+}
+
+/// What stands on the screen is what a fresh picture of the window would show.
+void tst_Application::showsNothingOfThePast()
+{
+    QFETCH(QString, device);
+    QFETCH(int, row);
+    QVERIFY(open(qPrintable(device)));
+    Instrument &instrument = m_window->instrument(row);
+
+    for (const int pageIndex : { 0, 1 }) {
+        m_window->view(qPrintable(device))->controlPageTabBar()->setCurrentIndex(pageIndex);
+        instrument.laser().emitLight(true);
+        instrument.requestPower(instrument.powerLimits().max / 2.0);
+        instrument.requestWavelength(instrument.wavelengths().max);
+        for (int i = 0; i < 100; ++i) {
+            m_window->advance(200);
+            QCoreApplication::processEvents();
+        }
+        QTRY_COMPARE(m_window->stalePart(), QRect());
+        instrument.laser().emitLight(false);
+        instrument.requestPower(instrument.powerLimits().max / 5.0);
+        m_window->advance(3000);
+        QTRY_COMPARE(m_window->stalePart(), QRect());
+    }
 }
 
 void tst_Application::takesATypedPower()

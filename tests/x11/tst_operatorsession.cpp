@@ -12,8 +12,7 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTimer>
-
-#include <cstdio>
+#include <QToolTip>
 
 using Simulation::Instrument;
 using Simulation::Laser;
@@ -134,6 +133,12 @@ private:
     QRandomGenerator m_random;
 };
 
+void closePopups()
+{
+    while (QWidget *popup = QApplication::activePopupWidget())
+        popup->close();
+}
+
 } // namespace
 
 /// A long day at the laser: a thousand things that an operator does, in no order.
@@ -146,28 +151,41 @@ private Q_SLOTS:
     void staysTrueThroughAThousandActions();
 
 private:
-    void verifyThatNothingLies(const ApplicationProbe &window, int row);
+    static bool isTrue(ApplicationProbe &window, int row);
+    static bool becomesTrue(ApplicationProbe &window, int row);
 };
 
 void tst_OperatorSession::initTestCase()
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication::setCursorFlashTime(0); // or a screen is never like another
     Pelorin::loadApplicationFonts();
     qApp->setStyleSheet(Pelorin::getApplicationStylesheet());
 }
 
 /// No hand is on a slider and all answers are there: what a device shows is what its instrument has.
-void tst_OperatorSession::verifyThatNothingLies(const ApplicationProbe &window, int row)
+bool tst_OperatorSession::isTrue(ApplicationProbe &window, int row)
 {
     const MainView *view = window.view(qPrintable(devices().at(row).name));
-    const Instrument &instrument = const_cast<ApplicationProbe &>(window).instrument(row);
+    const Instrument &instrument = window.instrument(row);
     const auto value = [view](const char *name) {
         return view->findChild<HorizontalSlider *>(QLatin1String(name))->slider->value0();
     };
-    QVERIFY(qAbs(value("power") - instrument.powerSetpoint()) < 0.06);
-    QVERIFY(qAbs(value("bandwidth") - instrument.bandwidth()) < 0.06);
-    QVERIFY(instrument.powerSetpoint() >= instrument.powerLimits().min
-            && instrument.powerSetpoint() <= instrument.powerLimits().max);
+    return qAbs(value("power") - instrument.powerSetpoint()) < 0.06
+           && qAbs(value("bandwidth") - instrument.bandwidth()) < 0.06
+           && instrument.powerSetpoint() >= instrument.powerLimits().min
+           && instrument.powerSetpoint() <= instrument.powerLimits().max;
+}
+
+/// Passes time until it is, and gives up after some twenty answers: what the server sends may still be
+/// on its way.
+bool tst_OperatorSession::becomesTrue(ApplicationProbe &window, int row)
+{
+    for (int i = 0; i < 20 && !isTrue(window, row); ++i) {
+        QTest::qWait(10);
+        window.advance(actionMs);
+    }
+    return isTrue(window, row);
 }
 
 void tst_OperatorSession::staysTrueThroughAThousandActions()
@@ -175,6 +193,7 @@ void tst_OperatorSession::staysTrueThroughAThousandActions()
     tolerateMessages(QtDebugMsg, QString()); // what a signal graph writes of its points
     const QTemporaryDir dir;
     ApplicationProbe window(dir.filePath(QStringLiteral("layout.ini")));
+    window.resize(1560, 900); // all of it and its frame are on the screen
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -193,28 +212,30 @@ void tst_OperatorSession::staysTrueThroughAThousandActions()
         QVERIFY(RealMouse::xdotool(action));
         window.advance(actionMs);
         QCoreApplication::processEvents();
-        if (i % 100 == 99)
+        if (i % 100 == 99) {
+            closePopups();
+            QVERIFY(RealMouse::moveTo(QPoint(1, 1)));
+            QToolTip::hideText();
             window.resetLayout(); // docks that were closed come back
+            QTRY_COMPARE(window.stalePart(), QRect());
+        }
         for (int row = 0; row < devices().size(); ++row) {
-            verifyThatNothingLies(window, row);
-            if (QTest::currentTestFailed()) {
-                std::fprintf(stderr, "action %d on %s: %s\n", i, qPrintable(devices().at(row).name),
-                             qPrintable(action.join(QLatin1Char(' '))));
-                return;
-            }
+            QVERIFY2(becomesTrue(window, row), qPrintable(QStringLiteral("%1, action %2: %3")
+                                                              .arg(devices().at(row).title)
+                                                              .arg(i)
+                                                              .arg(action.join(QLatin1Char(' ')))));
         }
     }
 
     QVERIFY2(window.requests().size() > 50, qPrintable(QString::number(window.requests().size())));
-    while (QWidget *popup = QApplication::activePopupWidget())
-        popup->close();
+    closePopups();
     Instrument &instrument = window.instrument(0);
     instrument.clearFault();
     instrument.requestPower(instrument.powerLimits().max);
     instrument.laser().emitLight(true);
     window.advance(15000);
     QVERIFY(qAbs(instrument.power() - instrument.powerLimits().max) < 0.1);
-    verifyThatNothingLies(window, 0);
+    QVERIFY(becomesTrue(window, 0));
 }
 
 PELORIN_TEST_MAIN(tst_OperatorSession)
