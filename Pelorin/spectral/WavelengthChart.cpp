@@ -239,7 +239,6 @@ void WavelengthChart::createFilter()
     const auto repaint = [this] { viewport()->update(); };
     for (const QValueAxis *axis : { m_wavelengthAxis, m_powerAxis, m_filterAxis }) {
         connect(axis, &QValueAxis::rangeChanged, this, repaint);
-        connect(axis, &QValueAxis::labelFormatChanged, this, repaint);
         connect(axis, &QValueAxis::titleTextChanged, this, repaint);
     }
     // An area whose upper edge has an axis already makes Qt Charts forget the range of that axis.

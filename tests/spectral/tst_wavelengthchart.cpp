@@ -11,7 +11,10 @@
 #include <QMouseEvent>
 #include <QSignalSpy>
 
+#include <functional>
 #include <limits>
+
+Q_DECLARE_METATYPE(std::function<void(WavelengthChart &)>)
 
 using QtCharts::QValueAxis;
 
@@ -63,6 +66,8 @@ private Q_SLOTS:
     void showsTheTotalPower();
     void repaintsTheTotalPowerAtOnce_data();
     void repaintsTheTotalPowerAtOnce();
+    void repaintsAllWithAnAxis_data();
+    void repaintsAllWithAnAxis();
     void hidesAxesAndTotalPower();
     void hidesTheSpectrometerInOneReport();
     void tellsWhenTheOperatorHidesTheSpectrometer();
@@ -452,6 +457,50 @@ void tst_WavelengthChart::repaintsTheTotalPowerAtOnce()
     chart.setTotalPower(12.5, Converter::pwrMW1);
 
     QVERIFY(repaints.taken() > 0);
+}
+
+void tst_WavelengthChart::repaintsAllWithAnAxis_data()
+{
+    using Change = std::function<void(WavelengthChart &)>;
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<bool>("all");
+
+    QTest::newRow("range of the spectrum")
+        << Change([](auto &chart) { chart.setSpectrumPowerRange(0.0, 5.0, Converter::pwrMW3); })
+        << true;
+    QTest::newRow("decimals of the spectrum")
+        << Change([](auto &chart) { chart.setSpectrumPowerRange(0.0, 2.0, Converter::pwrMW1); })
+        << true;
+    QTest::newRow("unit of the spectrum")
+        << Change([](auto &chart) { chart.setSpectrumPowerRange(0.0, 2.0, Converter::pwrUW3); })
+        << true;
+    QTest::newRow("nothing new of the spectrum")
+        << Change([](auto &chart) { chart.setSpectrumPowerRange(0.0, 2.0, Converter::pwrMW3); })
+        << false;
+    QTest::newRow("range of the setpoint")
+        << Change([](auto &chart) { chart.setFilterPowerRange(0.0, 50.0, Converter::pwrMW3); })
+        << true;
+    QTest::newRow("wavelengths") << Change([](auto &chart) {
+        chart.setWavelengthRange(400.0, 700.0);
+    }) << true;
+    QTest::newRow("another spectrum") << Change([](auto &chart) {
+        chart.setSpectrometerData({ { 500.0, 1.0 }, { 550.0, 1.5 } });
+    }) << false;
+}
+
+/// Labels of an axis that have moved leave crumbs beside themselves, unless all is painted anew.
+void tst_WavelengthChart::repaintsAllWithAnAxis()
+{
+    QFETCH(std::function<void(WavelengthChart &)>, change);
+    ChartProbe chart;
+    chart.setSpectrumPowerRange(0.0, 2.0, Converter::pwrMW3);
+    RepaintCounter repaints(*chart.viewport());
+    QTRY_COMPARE(repaints.taken(), 0);
+
+    change(chart);
+    repaints.taken();
+
+    QTEST(repaints.region() == QRegion(chart.viewport()->rect()), "all");
 }
 
 void tst_WavelengthChart::hidesAxesAndTotalPower()

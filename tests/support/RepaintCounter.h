@@ -4,7 +4,11 @@
 #include <QApplication>
 #include <QEvent>
 #include <QObject>
+#include <QPaintEvent>
+#include <QRegion>
 #include <QWidget>
+
+#include <utility>
 
 /// Tells how often a shown widget was repainted.
 class RepaintCounter : public QObject
@@ -22,12 +26,19 @@ public:
         settle();
         const int count = m_count;
         m_count = 0;
+        m_takenRegion = std::exchange(m_region, QRegion());
         return count;
     }
 
+    /// What the repaints have painted that taken() told of last.
+    QRegion region() const { return m_takenRegion; }
+
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        m_count += event->type() == QEvent::Paint ? 1 : 0;
+        if (event->type() == QEvent::Paint) {
+            ++m_count;
+            m_region += static_cast<QPaintEvent *>(event)->region();
+        }
         return QObject::eventFilter(watched, event);
     }
 
@@ -39,6 +50,8 @@ private:
     }
 
     int m_count = 0;
+    QRegion m_region;
+    QRegion m_takenRegion;
 };
 
 #endif
