@@ -9,6 +9,7 @@
 #include <Pelorin/WavelengthSelector>
 
 #include <QDialog>
+#include <QDockWidget>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -133,10 +134,16 @@ private:
     QRandomGenerator m_random;
 };
 
-void closePopups()
+/// Menus, lists and popup sliders: whatever else than a dock is a window of its own on the screen.
+void closePopups(const QWidget &window)
 {
     while (QWidget *popup = QApplication::activePopupWidget())
         popup->close();
+    for (QWidget *each : QApplication::topLevelWidgets()) {
+        if (each != &window && each->isVisible() && !each->graphicsProxyWidget()
+            && !qobject_cast<QDockWidget *>(each))
+            each->close();
+    }
 }
 
 } // namespace
@@ -213,7 +220,7 @@ void tst_OperatorSession::staysTrueThroughAThousandActions()
         window.advance(actionMs);
         QCoreApplication::processEvents();
         if (i % 100 == 99) {
-            closePopups();
+            closePopups(window);
             QVERIFY(RealMouse::moveTo(QPoint(1, 1)));
             QToolTip::hideText();
             window.resetLayout(); // docks that were closed come back
@@ -228,7 +235,7 @@ void tst_OperatorSession::staysTrueThroughAThousandActions()
     }
 
     QVERIFY2(window.requests().size() > 50, qPrintable(QString::number(window.requests().size())));
-    closePopups();
+    closePopups(window);
     Instrument &instrument = window.instrument(0);
     instrument.clearFault();
     instrument.requestPower(instrument.powerLimits().max);
