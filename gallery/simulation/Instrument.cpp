@@ -45,14 +45,6 @@ Simulation::Instrument::Instrument(quint32 seed, Span wavelengths, double nm, Sp
     connect(&m_clock, &Clock::ticked, this, &Instrument::tick);
 }
 
-double Simulation::Instrument::expectedPeak() const
-{
-    Spectrometer spectrometer(0);
-    spectrometer.setBandwidth(m_bandwidth);
-    spectrometer.setPower(m_setpoint);
-    return spectrometer.peak();
-}
-
 /// Every answer comes in the order of the requests.
 void Simulation::Instrument::answer(const std::function<void()> &request)
 {

@@ -78,7 +78,7 @@ public:
     QString fault() const { return m_fault; } ///< empty while all is well
 
     /// The density at the top of the line in mW/nm, if the power were at its set point.
-    double expectedPeak() const;
+    double expectedPeak() const { return Spectrometer::peakOf(m_setpoint, m_bandwidth); }
 
 public Q_SLOTS:
     void requestPower(double mW);

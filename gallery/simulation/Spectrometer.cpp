@@ -35,10 +35,10 @@ void Simulation::Spectrometer::setBandwidth(double nm)
     m_bandwidth = std::max(nm, resolutionNm);
 }
 
-double Simulation::Spectrometer::peak() const
+double Simulation::Spectrometer::peakOf(double mW, double bandwidth)
 {
-    const double area = m_bandwidth / widthToSigma * std::sqrt(2.0 * std::acos(-1.0));
-    return m_power / area;
+    const double area = bandwidth / widthToSigma * std::sqrt(2.0 * std::acos(-1.0));
+    return mW / area;
 }
 
 double Simulation::Spectrometer::density(double nm) const

@@ -27,7 +27,9 @@ public:
     QVector<QPointF> nextFrame();
 
     /// The density at the top of the line, in mW/nm.
-    double peak() const;
+    double peak() const { return peakOf(m_power, m_bandwidth); }
+    /// The same for a line of \a mW that is \a bandwidth nm wide at half its height.
+    static double peakOf(double mW, double bandwidth);
 
 public Q_SLOTS:
     void setWavelength(double nm) { m_wavelength = nm; }
