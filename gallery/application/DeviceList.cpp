@@ -124,6 +124,18 @@ void DeviceItem::paintEvent(QPaintEvent *)
     }
 }
 
+void DeviceItem::enterEvent(QEvent *event)
+{
+    ScrollAreaNGItem::enterEvent(event);
+    update();
+}
+
+void DeviceItem::leaveEvent(QEvent *event)
+{
+    ScrollAreaNGItem::leaveEvent(event);
+    update();
+}
+
 void DeviceItem::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)

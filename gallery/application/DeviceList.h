@@ -44,8 +44,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void enterEvent(QEvent *event) override { update(), ScrollAreaNGItem::enterEvent(event); }
-    void leaveEvent(QEvent *event) override { update(), ScrollAreaNGItem::leaveEvent(event); }
+    void enterEvent(QEvent *event) override;
+    void leaveEvent(QEvent *event) override;
 
 private:
     QString m_title;

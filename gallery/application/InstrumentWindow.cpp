@@ -115,8 +115,10 @@ void InstrumentWindow::resetLayout()
 {
     resetAllGenericDocks();
     m_readings->setSplitterState(m_firstDivider);
-    if (m_store)
-        m_store->clear();
+    if (!m_store)
+        return;
+    for (const QString &key : { geometryKey, docksKey, dividerKey })
+        m_store->forget(key);
 }
 
 void InstrumentWindow::showEvent(QShowEvent *event)

@@ -72,6 +72,7 @@ private:
         m_perTrigger->setValue(settings.perTrigger);
         m_pulsesView->setPulseInterval(settings.intervalUs);
         m_subPulsesView->setSubPulseCount(settings.subPulses);
+        m_triggerView->setPulseInterval(settings.intervalUs);
         m_triggerView->setPulseCount(settings.perTrigger);
     }
 

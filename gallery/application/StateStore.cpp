@@ -46,7 +46,7 @@ void StateStore::setState(const QString &key, const QByteArray &state)
     setPart("/data", state.toBase64());
 }
 
-void StateStore::clear()
+void StateStore::forget(const QString &key)
 {
-    m_settings.remove(QStringLiteral("states"));
+    m_settings.remove(group + key);
 }

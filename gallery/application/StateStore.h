@@ -24,8 +24,7 @@ public:
     QString text(const QString &key) const { return QString::fromUtf8(state(key)); }
     void setText(const QString &key, const QString &text) { setState(key, text.toUtf8()); }
 
-    /// Forgets all states; what others may have written into the file stays.
-    void clear();
+    void forget(const QString &key);
 
     /// Writes to the file now, not at the end.
     void sync() { m_settings.sync(); }

@@ -8,11 +8,17 @@
 #include <Pelorin/HorizontalSlider>
 #include <Pelorin/IndicatorButton>
 #include <Pelorin/MainView>
+#include <Pelorin/WavelengthChart>
 
+#include <QCheckBox>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsScene>
 #include <QImage>
 #include <QPushButton>
 #include <QScreen>
 #include <QTabWidget>
+
+#include <utility>
 
 /// The window of the application with what a test looks at, found as it stands on the screen.
 class ApplicationProbe : public InstrumentWindow
@@ -58,6 +64,21 @@ public:
             }
         }
         return nullptr;
+    }
+
+    /// The button of \a chart that saves it, and the item of the scene in which it stands.
+    static std::pair<QCheckBox *, const QGraphicsProxyWidget *>
+    saveButton(const WavelengthChart &chart)
+    {
+        for (const QGraphicsItem *item : chart.scene()->items()) {
+            const auto *proxy = qgraphicsitem_cast<const QGraphicsProxyWidget *>(item);
+            for (auto *box : proxy && proxy->widget() ? proxy->widget()->findChildren<QCheckBox *>()
+                                                      : QList<QCheckBox *>()) {
+                if (box->text().isEmpty())
+                    return { box, proxy };
+            }
+        }
+        return { nullptr, nullptr };
     }
 
     /// Where the screen shows something else than a fresh picture of the window would: empty, if all

@@ -8,13 +8,17 @@
 #include <Pelorin/DropDownNG>
 #include <Pelorin/LineEditPowerNG>
 #include <Pelorin/Pelorin>
+#include <Pelorin/PulsesView>
 #include <Pelorin/ScrollAreaNG>
+#include <Pelorin/SubPulsesView>
+#include <Pelorin/TriggerActionView>
 #include <Pelorin/WavelengthChart>
 #include <Pelorin/WavelengthSelector>
 
 #include <QCheckBox>
 #include <QDialog>
 #include <QFile>
+#include <QFileDialog>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QSplitter>
@@ -27,6 +31,7 @@ namespace {
 
 constexpr int answerMs = 100;
 constexpr int startUpMs = 12000;
+const QString dataFilter = QStringLiteral("Data files (*.csv *.txt)");
 
 QStringList tabTexts(const QTabWidget &tabs)
 {
@@ -62,6 +67,7 @@ private Q_SLOTS:
     void keepsWhatIsTyped();
     void takesBackWhatWasRefused();
     void warnsOfAFault();
+    void drawsThePulsesAsTheyAre();
     void movesTheRangesWithTheLimits();
     void takesADyeOffTheChart();
     void asksBeforeEmissionWithoutAHarmonic();
@@ -101,6 +107,7 @@ private:
 
 void tst_InstrumentWindow::initTestCase()
 {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QFont::insertSubstitution(QStringLiteral("Consolas"), QStringLiteral("DejaVu Sans Mono"));
     Pelorin::loadApplicationFonts();
     qApp->setStyleSheet(Pelorin::getApplicationStylesheet());
@@ -346,6 +353,31 @@ void tst_InstrumentWindow::warnsOfAFault()
     QCOMPARE(ostrel().fault(), QString());
 }
 
+/// Each drawing names the interval, or shows one of the other two settings.
+void tst_InstrumentWindow::drawsThePulsesAsTheyAre()
+{
+    openOstrel();
+    const auto pictures = [this] {
+        return QList<QImage>{ m_window->find<PulsesView>()->grab().toImage(),
+                              m_window->find<SubPulsesView>()->grab().toImage(),
+                              m_window->find<TriggerActionView>()->grab().toImage() };
+    };
+    const QList<QImage> before = pictures();
+
+    ostrel().requestPulses({ 50.0, 5, 14 });
+    m_window->advance(answerMs);
+    const QList<QImage> interval = pictures();
+    QVERIFY(interval.at(0) != before.at(0));
+    QCOMPARE(interval.at(1), before.at(1));
+    QVERIFY(interval.at(2) != before.at(2));
+    ostrel().requestPulses({ 50.0, 9, 30 });
+    m_window->advance(answerMs);
+
+    QCOMPARE(pictures().at(0), interval.at(0));
+    QVERIFY(pictures().at(1) != interval.at(1));
+    QVERIFY(pictures().at(2) != interval.at(2));
+}
+
 void tst_InstrumentWindow::movesTheRangesWithTheLimits()
 {
     openOstrel();
@@ -462,14 +494,22 @@ void tst_InstrumentWindow::keepsFolderAndFilterOfTheChart()
     m_window->showDevice(QStringLiteral("ostrel"));
     auto *chart = m_window->find<WavelengthChart>("chart");
     Q_EMIT chart->sigChartSaveFoldernameChanged(m_dir.path());
-    Q_EMIT chart->sigChartSaveFilterTypeChanged(QStringLiteral("Data files (*.csv *.txt)"));
+    Q_EMIT chart->sigChartSaveFilterTypeChanged(dataFilter);
     m_window->close();
 
-    const StateStore store(file());
+    const auto again = reopened();
+    QTest::mouseClick(again->find<Button>("Reset layout"), Qt::LeftButton); // leaves them alone
+    const auto reset = reopened();
+    QStringList offered;
+    DialogHand hand;
+    hand.save(QString(), QString(), [&offered](QFileDialog &dialog) {
+        offered << dialog.directory().path() << dialog.selectedNameFilter();
+    });
+    reset->showDevice(QStringLiteral("ostrel"));
+    ApplicationProbe::saveButton(*reset->find<WavelengthChart>("chart")).first->click();
 
-    QCOMPARE(store.text(QStringLiteral("chart-folder")), m_dir.path());
-    QCOMPARE(store.text(QStringLiteral("chart-filter")),
-             QStringLiteral("Data files (*.csv *.txt)"));
+    QCOMPARE(hand.problems(), QStringList());
+    QCOMPARE(offered, QStringList({ m_dir.path(), dataFilter }));
 }
 
 void tst_InstrumentWindow::keepsNothingWithoutAFile()

@@ -46,7 +46,7 @@ private Q_SLOTS:
     void dropsEveryDamagedState();
     void readsForeignFiles_data();
     void readsForeignFiles();
-    void clearsItsOwnAlone();
+    void forgetsOneStateAlone();
     void survivesAFileThatCannotBeWritten();
 
 private:
@@ -162,14 +162,16 @@ void tst_StateStore::readsForeignFiles()
     QCOMPARE(store.state(key), allBytes());
 }
 
-void tst_StateStore::clearsItsOwnAlone()
+void tst_StateStore::forgetsOneStateAlone()
 {
     write(path(), "[other]\nname=value\n");
     {
         StateStore store(path());
         store.setState(key, allBytes());
-        store.clear();
+        store.setText(QStringLiteral("folder"), QStringLiteral("/data"));
+        store.forget(key);
         QCOMPARE(store.state(key), QByteArray());
+        QCOMPARE(store.text(QStringLiteral("folder")), QStringLiteral("/data"));
     }
 
     QVERIFY(read(path()).contains("name=value"));

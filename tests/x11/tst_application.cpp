@@ -9,10 +9,7 @@
 #include <Pelorin/ScrollAreaNG>
 #include <Pelorin/WavelengthChart>
 
-#include <QCheckBox>
 #include <QFile>
-#include <QGraphicsProxyWidget>
-#include <QGraphicsScene>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QValueAxis>
@@ -266,21 +263,11 @@ void tst_Application::zoomsAndExportsTheChart()
     QVERIFY(RealMouse::drag(at(0.25), at(0.75)));
     QTRY_VERIFY(axis->max() - axis->min() < 0.6 * whole);
 
-    const QCheckBox *save = nullptr;
-    QPoint button;
-    for (auto *item : chart->scene()->items()) {
-        const auto *proxy = qgraphicsitem_cast<QGraphicsProxyWidget *>(item);
-        for (auto *box : proxy && proxy->widget() ? proxy->widget()->findChildren<QCheckBox *>()
-                                                  : QList<QCheckBox *>()) {
-            if (box->text().isEmpty() && !save) {
-                save = box;
-                const QPoint inside = box->mapTo(proxy->widget(), box->rect().center());
-                button = chart->viewport()->mapToGlobal(
-                    chart->mapFromScene(proxy->mapToScene(QPointF(inside))));
-            }
-        }
-    }
+    const auto [save, proxy] = ApplicationProbe::saveButton(*chart);
     QVERIFY(save);
+    const QPoint inside = save->mapTo(proxy->widget(), save->rect().center());
+    const QPoint button =
+        chart->viewport()->mapToGlobal(chart->mapFromScene(proxy->mapToScene(QPointF(inside))));
     const QString table = m_dir->filePath(QStringLiteral("spectrum.csv"));
     const QString picture = m_dir->filePath(QStringLiteral("spectrum.png"));
     {
